@@ -1,0 +1,30 @@
+# One place for everything that every target is compiled with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+# Colour arithmetic must give the same bits on every machine, with or without fused multiply-add.
+add_compile_options(-ffp-contract=off)
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+add_compile_definitions(
+    QT_NO_KEYWORDS
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    _GLIBCXX_ASSERTIONS)
+
+if(DROPSHADE_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+if(DROPSHADE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -1,0 +1,21 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace dropshade {
+
+/// The general clipboard of the desktop.
+class Pasteboard {
+public:
+    virtual ~Pasteboard() = default;
+
+    /// Replaces the whole content by `text` as plain text, offered in text types only.
+    virtual void setText(const QString& text) = 0;
+
+    /// The plain text on the clipboard; empty where there is none.
+    [[nodiscard]] virtual QString text() const = 0;
+};
+
+} // namespace dropshade

@@ -1,0 +1,56 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+
+namespace dropshade {
+
+/// One stored setting. The type is kept: an integer reads back as an integer, never as a string.
+using DefaultsValue = std::variant<bool, qint64, double, QString, QByteArray, QStringList>;
+
+/// The user's settings: a persistent keyed store and the single source of truth for all of them.
+///
+/// - A value reads back with the type and the bits it was stored with.
+/// - A write has reached the disk when the call returns true, and outlives the process from then on.
+/// - Another process's writes are seen at the next read; nothing is cached here.
+/// - Main thread only.
+class UserDefaults : public QObject {
+    Q_OBJECT
+
+public:
+    /// The value under `key`, or nothing where the key is unset.
+    [[nodiscard]] virtual std::optional<DefaultsValue> value(const QString& key) const = 0;
+
+    /// Stores `value` under `key` and announces it. False when the disk refused it; this process
+    /// then goes on to see the value, and it is written again together with the next write.
+    virtual bool setValue(const QString& key, const DefaultsValue& value) = 0;
+
+    /// Makes `key` unset and announces it; the result is as for `setValue`.
+    virtual bool remove(const QString& key) = 0;
+
+    /// Every key that is set, in no order.
+    [[nodiscard]] virtual QStringList keys() const = 0;
+
+    [[nodiscard]] bool contains(const QString& key) const { return value(key).has_value(); }
+
+    /// The value under `key` if it is set and of exactly this type.
+    template <typename T>
+    [[nodiscard]] std::optional<T> read(const QString& key) const {
+        const auto stored = value(key);
+        const T* typed = stored ? std::get_if<T>(&*stored) : nullptr;
+        return typed ? std::optional<T>(*typed) : std::nullopt;
+    }
+
+Q_SIGNALS:
+    /// After every `setValue` and `remove` of this process.
+    void didChange(const QString& key);
+};
+
+} // namespace dropshade
