@@ -1,0 +1,30 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ApplicationInstance.h"
+
+namespace dropshade {
+
+/// A session in which the test decides who came first.
+class FakeApplicationInstance : public ApplicationInstance {
+public:
+    [[nodiscard]] Role claim() override {
+        ++m_claimCount;
+        return m_role;
+    }
+
+    /// The answer of every later claim; the first process unless set.
+    void setRole(Role role) { m_role = role; }
+
+    [[nodiscard]] int claimCount() const { return m_claimCount; }
+
+    /// Somebody starts the program once more.
+    void activate() { Q_EMIT activated(); }
+
+private:
+    Role m_role = Role::First;
+    int m_claimCount = 0;
+};
+
+} // namespace dropshade
