@@ -57,14 +57,19 @@ double hueChannel(double p, double q, double t) {
     return p;
 }
 
-SRGBColor hslToSRGB(double hue, double saturation, double lightness, double alpha) {
+RGBChannels hslChannels(double hue, double saturation, double lightness) {
     if (saturation == 0.0)
-        return {lightness, lightness, lightness, alpha};
+        return {lightness, lightness, lightness};
     const double q = lightness < 0.5 ? (1.0 + saturation) * lightness
                                      : lightness + saturation - lightness * saturation;
     const double p = 2.0 * lightness - q;
     return {hueChannel(p, q, hue + 1.0 / 3.0), hueChannel(p, q, hue),
-            hueChannel(p, q, hue - 1.0 / 3.0), alpha};
+            hueChannel(p, q, hue - 1.0 / 3.0)};
+}
+
+SRGBColor hslToSRGB(double hue, double saturation, double lightness, double alpha) {
+    const RGBChannels channels = hslChannels(hue, saturation, lightness);
+    return {channels.red, channels.green, channels.blue, alpha};
 }
 
 HSBComponents hsbComponents(const SRGBColor& color) {

@@ -27,6 +27,15 @@ struct HSLComponents {
     friend constexpr bool operator==(const HSLComponents&, const HSLComponents&) = default;
 };
 
+/// Gamma-encoded channels that nothing has pinned yet: 0 to 1 inside sRGB, and beyond outside it.
+struct RGBChannels {
+    double red = 0.0;
+    double green = 0.0;
+    double blue = 0.0;
+
+    friend constexpr bool operator==(const RGBChannels&, const RGBChannels&) = default;
+};
+
 /// All four as fractions of 1; `hue` as a fraction of a full turn, below 1.
 struct HSBComponents {
     double hue = 0.0;
@@ -50,8 +59,12 @@ struct HSBComponents {
 /// of a turn. One step brings `t` from −1…2 into 0…1; anything further out stays out and gives `p`.
 [[nodiscard]] double hueChannel(double p, double q, double t);
 
-/// HSL to sRGB by the same source. Hue as a fraction of a turn (good from −2/3 to 5/3), saturation
-/// and lightness as fractions of 1, none of them clamped; the result is pinned by `SRGBColor`.
+/// HSL to RGB by the same source. Hue as a fraction of a turn (good from −2/3 to 5/3), saturation
+/// and lightness as fractions of 1, none of them clamped. Channels of arguments out of range may be
+/// out of range, and those of huge ones may not be numbers.
+[[nodiscard]] RGBChannels hslChannels(double hue, double saturation, double lightness);
+
+/// The colour of `hslChannels`, pinned by `SRGBColor`.
 [[nodiscard]] SRGBColor hslToSRGB(double hue, double saturation, double lightness, double alpha);
 
 /// The hexcone HSB (HSV) model of Smith, "Color gamut transform pairs" (1978). Black has saturation
