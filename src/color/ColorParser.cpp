@@ -83,11 +83,17 @@ std::optional<SRGBColor> parseName(std::string_view input) {
     std::array<char, longestCssColorName> name;
     std::size_t length = 0;
     while (!input.empty()) {
+        char letter = lowerCase(input.front());
+        if (letter < 'a' || letter > 'z') {
+            if (!input.starts_with(kelvinSign))
+                return std::nullopt;
+            letter = 'k';
+            input.remove_prefix(kelvinSign.size() - 1);
+        }
         if (length == name.size())
             return std::nullopt;
-        const bool isKelvinSign = input.starts_with(kelvinSign);
-        name[length++] = isKelvinSign ? 'k' : lowerCase(input.front());
-        input.remove_prefix(isKelvinSign ? kelvinSign.size() : 1);
+        name[length++] = letter;
+        input.remove_prefix(1);
     }
     const auto hex = cssNamedColorHex(std::string_view(name.data(), length));
     return hex ? parseHex(*hex) : std::nullopt;
@@ -132,26 +138,23 @@ ColorArguments splitAtCommas(std::string_view inner) {
     return arguments;
 }
 
+std::size_t separatorLength(std::string_view text) {
+    return text.starts_with('/') ? 1 : whiteSpaceLength(text);
+}
+
 ColorArguments splitAtWhiteSpace(std::string_view inner) {
-    const auto separatorLength = [](std::string_view text) {
-        return text.starts_with('/') ? 1 : whiteSpaceLength(text);
-    };
     ColorArguments arguments;
-    std::size_t start = 0;
-    std::size_t end = 0;
-    while (end < inner.size() && !arguments.isFull()) {
-        const std::size_t length = separatorLength(inner.substr(end));
-        if (length == 0) {
-            ++end;
+    while (!inner.empty() && !arguments.isFull()) {
+        if (const std::size_t separator = separatorLength(inner)) {
+            inner.remove_prefix(separator);
             continue;
         }
-        if (end > start)
-            arguments.add(inner.substr(start, end - start));
-        end += length;
-        start = end;
+        std::size_t length = 1;
+        while (length < inner.size() && separatorLength(inner.substr(length)) == 0)
+            ++length;
+        arguments.add(inner.substr(0, length));
+        inner.remove_prefix(length);
     }
-    if (end > start)
-        arguments.add(inner.substr(start, end - start));
     return arguments;
 }
 
