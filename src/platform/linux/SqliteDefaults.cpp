@@ -1,0 +1,70 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/SqliteDefaults.h"
+
+#include "platform/linux/DefaultsDatabase.h"
+
+#include <QStandardPaths>
+
+namespace dropshade {
+
+SqliteDefaults::SqliteDefaults(const QString& path)
+    : m_database(std::make_unique<DefaultsDatabase>(path)) {}
+
+SqliteDefaults::~SqliteDefaults() {
+    if (!m_unsaved.empty()) {
+        static_cast<void>(m_database->write(m_unsaved, DefaultsDatabase::deadline()));
+    }
+}
+
+std::optional<DefaultsValue> SqliteDefaults::value(const QString& key) const {
+    const auto unsaved = m_unsaved.find(key);
+    return unsaved != m_unsaved.end() ? unsaved->second : m_database->value(key);
+}
+
+bool SqliteDefaults::setValue(const QString& key, const DefaultsValue& value) {
+    return change(key, value);
+}
+
+bool SqliteDefaults::remove(const QString& key) {
+    return change(key, std::nullopt);
+}
+
+QStringList SqliteDefaults::keys() const {
+    QStringList all = m_database->keys();
+    for (const auto& [key, value] : m_unsaved) {
+        all.removeAll(key);
+        if (value) {
+            all.append(key);
+        }
+    }
+    return all;
+}
+
+QString SqliteDefaults::defaultPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/dropshade/defaults.sqlite");
+}
+
+bool SqliteDefaults::change(const QString& key, std::optional<DefaultsValue> value) {
+    m_unsaved.insert_or_assign(key, std::move(value));
+    const bool isStored = store(key);
+    Q_EMIT didChange(key);
+    return isStored;
+}
+
+bool SqliteDefaults::store(const QString& key) {
+    const auto deadline = DefaultsDatabase::deadline();
+    if (m_database->write(m_unsaved, deadline)) {
+        m_unsaved.clear();
+        return true;
+    }
+    // One value that is too large for the disk must not keep the others from it.
+    if (m_unsaved.size() > 1 && m_database->write({*m_unsaved.find(key)}, deadline)) {
+        m_unsaved.erase(key);
+        return true;
+    }
+    return false;
+}
+
+} // namespace dropshade

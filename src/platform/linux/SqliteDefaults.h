@@ -1,0 +1,53 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/UserDefaults.h"
+
+#include <map>
+#include <memory>
+
+namespace dropshade {
+
+class DefaultsDatabase;
+
+/// User defaults in an SQLite database. All processes of the user share the file.
+///
+/// - Every value comes back exactly, also a string with NUL characters or lone surrogates and a
+///   real that is not a number.
+/// - A call waits for other processes 200 ms at most. A read that they keep from the file finds
+///   only what this process could not store.
+/// - A damaged file, or one of another program, is renamed to "<name>.damaged-<UTC time>" with its
+///   companions, and a fresh store begins. A removed or replaced file counts as removed or replaced
+///   from the next call on.
+/// - Where no file can be made, the values live as long as the object; each write tries anew. Where
+///   the file can be read alone, it is, and writes are refused.
+/// - A file that a newer version of the program has changed in form is read as far as it can be;
+///   it is never written or renamed, so writes are refused.
+/// - What was refused is written with the next write, or when the object ends.
+class SqliteDefaults : public UserDefaults {
+    Q_OBJECT
+
+public:
+    /// Nothing is opened or made before it is needed.
+    explicit SqliteDefaults(const QString& path);
+    ~SqliteDefaults() override;
+
+    [[nodiscard]] std::optional<DefaultsValue> value(const QString& key) const override;
+    bool setValue(const QString& key, const DefaultsValue& value) override;
+    bool remove(const QString& key) override;
+    [[nodiscard]] QStringList keys() const override;
+
+    /// `dropshade/defaults.sqlite` in the user's configuration folder.
+    [[nodiscard]] static QString defaultPath();
+
+private:
+    bool change(const QString& key, std::optional<DefaultsValue> value);
+    bool store(const QString& key);
+
+    std::unique_ptr<DefaultsDatabase> m_database;
+    /// What the disk refused so far; nothing for a key that was removed.
+    std::map<QString, std::optional<DefaultsValue>> m_unsaved;
+};
+
+} // namespace dropshade
