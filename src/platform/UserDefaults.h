@@ -18,7 +18,7 @@ using DefaultsValue = std::variant<bool, qint64, double, QString, QByteArray, QS
 /// The user's settings: a persistent keyed store and the single source of truth for all of them.
 ///
 /// - A value reads back with the type and the bits it was stored with.
-/// - A write has reached the disk when the call returns true, and outlives the process from then on.
+/// - A write has reached the disk when the call returns true, and then outlives the process.
 /// - Another process's writes are seen at the next read; nothing is cached here.
 /// - Main thread only.
 class UserDefaults : public QObject {

@@ -1,0 +1,107 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+
+#include "app/SettingsReaders.h"
+#include "widgets/Theme.h"
+#include "widgets/TintedIcon.h"
+
+namespace dropshade {
+
+namespace {
+
+/// The windows under a menu need a moment to draw what it covered, or the loupe shows its ghost.
+constexpr std::chrono::milliseconds menuFadeDelay{100};
+
+QString statusIconResource(MenuBarIconStyle style) {
+    switch (style) {
+    case MenuBarIconStyle::Swatch:
+        return QStringLiteral(":/icons/status-swatch.svg");
+    case MenuBarIconStyle::Palette:
+        return QStringLiteral(":/icons/status-palette.svg");
+    case MenuBarIconStyle::Picker:
+        break;
+    }
+    return QStringLiteral(":/icons/status-picker.svg");
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(Platform platform)
+    : m_platform(std::move(platform)),
+      m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
+      m_statusMenu(*m_platform.statusItem) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching() {
+    connect(m_platform.statusItem.get(), &StatusItem::clicked, this,
+            &AppDelegate::statusItemClicked);
+    updateStatusIcon();
+    connect(m_platform.defaults.get(), &UserDefaults::didChange, this, [this](const QString& key) {
+        if (key == keys::menuBarIconStyle)
+            updateStatusIcon();
+    });
+    connect(m_platform.appearance.get(), &DesktopAppearance::didChange, this,
+            &AppDelegate::updateStatusIcon);
+    connect(m_platform.instance.get(), &ApplicationInstance::activated, &m_statusMenu,
+            &StatusMenu::show);
+    connect(&m_statusMenu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
+    connect(&m_statusMenu, &StatusMenu::quitClicked, this, &AppDelegate::quitRequested);
+}
+
+void AppDelegate::applicationWillTerminate() {
+    m_pickAfterMenu.reset();
+    // Qt may wait for a clipboard manager that is slow to take the text over; nothing of the
+    // program should be seen meanwhile.
+    m_platform.statusItem->setIcon(QIcon());
+}
+
+void AppDelegate::updateStatusIcon() {
+    const auto scheme =
+        m_platform.appearance->isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light;
+    m_platform.statusItem->setIcon(tintedStatusIcon(
+        statusIconResource(menuBarIconStyle(*m_platform.defaults)), Theme::of(scheme).textPrimary));
+}
+
+void AppDelegate::statusItemClicked(const StatusItemClick& click) {
+    // Some panels keep the right click to themselves, so the middle one picks as well.
+    const bool isQuickPick =
+        click.button != Qt::LeftButton || click.modifiers.testFlag(Qt::ControlModifier);
+    if (isQuickPick)
+        startPick();
+    else
+        m_statusMenu.show();
+}
+
+void AppDelegate::pickColorClicked() {
+    m_pickAfterMenu = m_platform.scheduler->after(menuFadeDelay, [this] { startPick(); });
+}
+
+void AppDelegate::startPick() {
+    if (m_isPicking)
+        return;
+    m_isPicking = true;
+    m_colorPickerService.pickColor([this](const auto& color) { finishPick(color); });
+}
+
+void AppDelegate::finishPick(const std::optional<SRGBColor>& color) {
+    if (color)
+        copyColor(*color);
+    m_isPicking = false;
+}
+
+void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> format) {
+    countCopy();
+    const UserDefaults& defaults = *m_platform.defaults;
+    const std::string text =
+        formatted(color, format.value_or(colorFormat(defaults)), formatOptions(defaults));
+    m_platform.pasteboard->setText(QString::fromStdString(text));
+}
+
+void AppDelegate::countCopy() {
+    const qint64 count = m_platform.defaults->read<qint64>(keys::totalChecksCount).value_or(0);
+    m_platform.defaults->setValue(keys::totalChecksCount, count + 1);
+}
+
+} // namespace dropshade

@@ -1,0 +1,59 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/ColorPickerService.h"
+#include "app/StatusMenu.h"
+#include "color/ColorFormat.h"
+#include "platform/Platform.h"
+
+#include <QObject>
+
+#include <optional>
+
+namespace dropshade {
+
+/// The program's one controller: it owns a service and a window controller of each kind, and
+/// carries the main flow, from a sample on the screen to its text on the clipboard.
+class AppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    explicit AppDelegate(Platform platform);
+    ~AppDelegate() override;
+
+    /// Puts up the status item and begins to listen. Once, when the application is about to run.
+    void applicationDidFinishLaunching();
+
+    /// Ends what is still waiting. Once, when the application is about to end.
+    void applicationWillTerminate();
+
+    /// Samples the screen and copies the colour. Does nothing while a sample is up.
+    void startPick();
+
+    /// True from the start of a sample until its flow has ended.
+    bool isPicking() const { return m_isPicking; }
+
+    /// Counts the copy and puts the colour's text on the clipboard, in `format` or else in the
+    /// format of the settings.
+    void copyColor(const SRGBColor& color, std::optional<ColorFormat> format = std::nullopt);
+
+Q_SIGNALS:
+    /// The user asked for the end of the program.
+    void quitRequested();
+
+private:
+    void statusItemClicked(const StatusItemClick& click);
+    void pickColorClicked();
+    void updateStatusIcon();
+    void finishPick(const std::optional<SRGBColor>& color);
+    void countCopy();
+
+    Platform m_platform;
+    ColorPickerService m_colorPickerService;
+    StatusMenu m_statusMenu;
+    std::unique_ptr<ScheduledWork> m_pickAfterMenu;
+    bool m_isPicking = false;
+};
+
+} // namespace dropshade

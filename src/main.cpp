@@ -1,0 +1,31 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+#include "platform/linux/Factory.h"
+#include "platform/linux/QuitSignals.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+    using namespace dropshade;
+
+    QuitSignals quitSignals;
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("dropshade"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Dropshade"));
+    QApplication::setApplicationVersion(QStringLiteral(DROPSHADE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("org.dropshade.Dropshade"));
+    // The program is its status item: it goes on without a window.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    Platform platform = makePlatform();
+    if (platform.instance->claim() == ApplicationInstance::Role::HandedOver)
+        return 0;
+    AppDelegate delegate(std::move(platform));
+    QObject::connect(&delegate, &AppDelegate::quitRequested, &application, &QApplication::quit);
+    QObject::connect(&application, &QApplication::aboutToQuit, &delegate,
+                     &AppDelegate::applicationWillTerminate);
+    delegate.applicationDidFinishLaunching();
+    quitSignals.listen();
+    return QApplication::exec();
+}

@@ -1,0 +1,28 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/ApplicationInstance.h"
+#include "platform/DesktopAppearance.h"
+#include "platform/Pasteboard.h"
+#include "platform/Scheduler.h"
+#include "platform/ScreenSampler.h"
+#include "platform/StatusItem.h"
+#include "platform/UserDefaults.h"
+
+#include <memory>
+
+namespace dropshade {
+
+/// Everything the program asks of the desktop, one of each.
+struct Platform {
+    std::unique_ptr<ApplicationInstance> instance;
+    std::unique_ptr<UserDefaults> defaults;
+    std::unique_ptr<Scheduler> scheduler;
+    std::unique_ptr<Pasteboard> pasteboard;
+    std::unique_ptr<DesktopAppearance> appearance;
+    std::unique_ptr<ScreenSampler> screenSampler;
+    std::unique_ptr<StatusItem> statusItem;
+};
+
+} // namespace dropshade

@@ -1,0 +1,60 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/DBusApplicationInstance.h"
+
+#include <QDBusAbstractAdaptor>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QVariantMap>
+
+namespace dropshade {
+
+namespace {
+
+const QString service = QStringLiteral("org.dropshade.Dropshade");
+const QString objectPath = QStringLiteral("/org/dropshade/Dropshade");
+const QString interfaceName = QStringLiteral("org.freedesktop.Application");
+
+/// The first process may be busy, but a start must not hang on it.
+constexpr int handoverTimeoutMilliseconds = 2000;
+
+/// Qt exports the slots of an adaptor under the names that they have.
+class ApplicationAdaptor : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit ApplicationAdaptor(DBusApplicationInstance* instance)
+        : QDBusAbstractAdaptor(instance), m_instance(*instance) {}
+
+public Q_SLOTS:
+    void Activate(const QVariantMap&) { Q_EMIT m_instance.activated(); }
+
+private:
+    DBusApplicationInstance& m_instance;
+};
+
+} // namespace
+
+DBusApplicationInstance::DBusApplicationInstance() {
+    new ApplicationAdaptor(this);
+}
+
+ApplicationInstance::Role DBusApplicationInstance::claim() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return Role::First;
+    // The object comes first, so that nobody can find the name without it.
+    bus.registerObject(objectPath, this);
+    if (bus.registerService(service))
+        return Role::First;
+    QDBusMessage activate = QDBusMessage::createMethodCall(service, objectPath, interfaceName,
+                                                           QStringLiteral("Activate"));
+    activate << QVariantMap();
+    bus.call(activate, QDBus::Block, handoverTimeoutMilliseconds);
+    return Role::HandedOver;
+}
+
+} // namespace dropshade
+
+#include "DBusApplicationInstance.moc"

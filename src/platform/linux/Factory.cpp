@@ -1,0 +1,46 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/Factory.h"
+
+#include "platform/linux/DBusApplicationInstance.h"
+#include "platform/linux/NullScreenSampler.h"
+#include "platform/linux/PortalAppearance.h"
+#include "platform/linux/QtPasteboard.h"
+#include "platform/linux/QtScheduler.h"
+#include "platform/linux/SqliteDefaults.h"
+#include "platform/linux/TrayStatusItem.h"
+#include "platform/linux/X11ScreenSampler.h"
+
+#include <QGuiApplication>
+
+namespace dropshade {
+
+namespace {
+
+bool isX11() {
+    return qGuiApp->nativeInterface<QNativeInterface::QX11Application>() != nullptr;
+}
+
+std::unique_ptr<ScreenSampler> makeSampler(const DesktopAppearance& appearance) {
+    if (!isX11())
+        return std::make_unique<NullScreenSampler>();
+    return std::make_unique<X11ScreenSampler>([&appearance] {
+        return Theme::of(appearance.isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light);
+    });
+}
+
+} // namespace
+
+Platform makePlatform() {
+    Platform platform;
+    platform.instance = std::make_unique<DBusApplicationInstance>();
+    platform.defaults = std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath());
+    platform.scheduler = std::make_unique<QtScheduler>();
+    platform.pasteboard = std::make_unique<QtPasteboard>();
+    platform.appearance = std::make_unique<PortalAppearance>();
+    platform.screenSampler = makeSampler(*platform.appearance);
+    platform.statusItem = std::make_unique<TrayStatusItem>();
+    return platform;
+}
+
+} // namespace dropshade

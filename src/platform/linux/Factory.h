@@ -1,0 +1,12 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Platform.h"
+
+namespace dropshade {
+
+/// The adapters that fit the desktop the program runs on. Needs the `QApplication`.
+[[nodiscard]] Platform makePlatform();
+
+} // namespace dropshade

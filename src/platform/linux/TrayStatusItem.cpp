@@ -1,0 +1,64 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "platform/linux/TrayStatusItem.h"
+
+#include <QGuiApplication>
+
+namespace dropshade {
+
+namespace {
+
+std::optional<Qt::MouseButton> buttonOf(QSystemTrayIcon::ActivationReason reason) {
+    switch (reason) {
+    case QSystemTrayIcon::Trigger:
+        return Qt::LeftButton;
+    case QSystemTrayIcon::Context:
+        return Qt::RightButton;
+    case QSystemTrayIcon::MiddleClick:
+        return Qt::MiddleButton;
+    case QSystemTrayIcon::DoubleClick: // Its first click came as a trigger.
+    case QSystemTrayIcon::Unknown:
+        break;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+TrayStatusItem::TrayStatusItem() {
+    connect(&m_hostWatch, &TrayHostWatch::found, this, &TrayStatusItem::createTrayIcon);
+}
+
+void TrayStatusItem::setIcon(const QIcon& icon) {
+    const bool isFirst = m_icon.isNull();
+    m_icon = icon;
+    if (m_trayIcon)
+        m_trayIcon->setIcon(icon);
+    else if (isFirst)
+        m_hostWatch.start();
+}
+
+QRect TrayStatusItem::geometry() const {
+    return m_trayIcon ? m_trayIcon->geometry() : QRect();
+}
+
+Qt::KeyboardModifiers TrayStatusItem::modifiers() const {
+    // An embedded icon gets the click itself, with the modifiers of that very moment. Otherwise the
+    // panel gets it, and what is held down now is the best there is.
+    const bool isEmbedded = !geometry().isEmpty();
+    return isEmbedded ? QGuiApplication::keyboardModifiers()
+                      : QGuiApplication::queryKeyboardModifiers();
+}
+
+void TrayStatusItem::createTrayIcon() {
+    m_trayIcon.emplace(m_icon);
+    m_trayIcon->setToolTip(QGuiApplication::applicationDisplayName());
+    connect(&*m_trayIcon, &QSystemTrayIcon::activated, this,
+            [this](QSystemTrayIcon::ActivationReason reason) {
+                if (const auto button = buttonOf(reason))
+                    Q_EMIT clicked({*button, modifiers()});
+            });
+    m_trayIcon->show();
+}
+
+} // namespace dropshade

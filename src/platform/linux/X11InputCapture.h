@@ -1,0 +1,48 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/linux/XcbConnection.h"
+
+#include <QPoint>
+#include <QRect>
+#include <QTimer>
+
+#include <xcb/xcb_keysyms.h>
+
+namespace dropshade {
+
+/// Takes the pointer and the keyboard for one connection: an invisible window over all screens,
+/// and grabs. Another program may hold either for a while (the panel whose icon is being pressed,
+/// an open menu); the capture then asks again until it has both.
+class X11InputCapture {
+public:
+    X11InputCapture(const XcbConnection& connection, const QRect& bounds);
+    ~X11InputCapture();
+    X11InputCapture(const X11InputCapture&) = delete;
+    X11InputCapture& operator=(const X11InputCapture&) = delete;
+
+    /// The pointer's pixel on the root window, by the server's own account.
+    [[nodiscard]] QPoint pointerPosition() const;
+    void warpPointer(const QPoint& position);
+
+    /// What is engraved on the key, whatever modifiers are held.
+    [[nodiscard]] xcb_keysym_t keysym(const xcb_key_press_event_t& event) const;
+
+private:
+    void createWindow(const QRect& bounds);
+    void createInvisibleCursor();
+    void grab();
+    [[nodiscard]] bool grabPointer();
+    [[nodiscard]] bool grabKeyboard();
+
+    const XcbConnection& m_connection;
+    xcb_window_t m_window = 0;
+    xcb_cursor_t m_cursor = 0;
+    xcb_key_symbols_t* m_symbols = nullptr;
+    bool m_hasPointer = false;
+    bool m_hasKeyboard = false;
+    QTimer m_retry;
+};
+
+} // namespace dropshade

@@ -1,0 +1,39 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <memory>
+
+namespace dropshade {
+
+/// What libxcb hands out and expects to be freed.
+template <typename T>
+using XcbReply = std::unique_ptr<T, decltype([](T* reply) { std::free(reply); })>;
+
+/// A connection of its own to the X server that the program runs on.
+class XcbConnection {
+public:
+    /// Nothing when there is no server, or when its default screen cannot be told.
+    [[nodiscard]] static std::unique_ptr<XcbConnection> open();
+    ~XcbConnection();
+    XcbConnection(const XcbConnection&) = delete;
+    XcbConnection& operator=(const XcbConnection&) = delete;
+
+    xcb_connection_t* get() const { return m_connection; }
+    const xcb_screen_t& screen() const { return *m_screen; }
+
+    /// The visual of the root window, or nothing for one that libxcb does not list.
+    [[nodiscard]] const xcb_visualtype_t* rootVisual() const;
+
+private:
+    XcbConnection(xcb_connection_t* connection, xcb_screen_t* screen)
+        : m_connection(connection), m_screen(screen) {}
+
+    xcb_connection_t* m_connection;
+    xcb_screen_t* m_screen;
+};
+
+} // namespace dropshade

@@ -1,0 +1,343 @@
+# Copyright (c) 2026 The Dropshade authors
+# SPDX-License-Identifier: MIT
+"""A desktop nobody sees: a real X server, window manager, message bus and tray, with a hand for the
+mouse and the keyboard. Everything started here is private to one `VirtualDesktop` and ends with it.
+
+Needs Debian's python3-xlib, xvfb, openbox, trayer, dbus-daemon and xclip; run it with /usr/bin/python3.
+"""
+
+import os
+import shutil
+import signal
+import struct
+import subprocess
+import tempfile
+import time
+import zlib
+
+from Xlib import X, XK, display
+from Xlib.ext import xtest
+
+WAIT_SECONDS = 10.0
+LOUPE_RING_RADIUS = 79.75
+SHARED_VARIABLES = ("PATH", "LANG", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
+
+# Without any service folder: nothing starts on this bus but what a test starts.
+BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
+ "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
+<busconfig>
+  <type>session</type>
+  <listen>unix:path={path}</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+"""
+
+
+def wait_until(condition, what, seconds=WAIT_SECONDS):
+    """The first true result of `condition`, asked again and again; fails with `what` in its text."""
+    deadline = time.monotonic() + seconds
+    while True:
+        result = condition()
+        if result:
+            return result
+        if time.monotonic() > deadline:
+            raise TimeoutError(f"waited {seconds} s in vain for {what}")
+        time.sleep(0.005)
+
+
+class Process:
+    """A child of the desktop, in a process group of its own."""
+
+    def __init__(self, command, environment, output=None):
+        self._popen = subprocess.Popen(
+            command, env=environment, stdin=subprocess.DEVNULL, stdout=output or subprocess.DEVNULL,
+            stderr=output or subprocess.DEVNULL, start_new_session=True)
+        self.pid = self._popen.pid
+
+    @property
+    def returncode(self):
+        return self._popen.poll()
+
+    def wait(self, seconds=WAIT_SECONDS):
+        return self._popen.wait(seconds)
+
+    def send(self, number):
+        self._popen.send_signal(number)
+
+    def end(self):
+        """Asks it to end, and makes it end."""
+        if self._popen.poll() is None:
+            self._popen.terminate()
+            try:
+                self._popen.wait(5)
+            except subprocess.TimeoutExpired:
+                os.killpg(self.pid, signal.SIGKILL)
+                self._popen.wait()
+
+
+class VirtualDesktop:
+    """`with VirtualDesktop() as desktop:` gives a desktop that is ready for use."""
+
+    def __init__(self, width=1280, height=800, depth=24, tray=True):
+        self._size = (width, height, depth)
+        self._wants_tray = tray
+        self._children = []
+        self._folder = tempfile.mkdtemp(prefix="dropshade-desktop-")
+        self.environment = {name: os.environ[name] for name in SHARED_VARIABLES if name in os.environ}
+
+    def __enter__(self):
+        try:
+            self._make_folders()
+            self._start_x_server()
+            self._start_bus()
+            self.display = display.Display(self.environment["DISPLAY"])
+            self.root = self.display.screen().root
+            self._start_window_manager()
+            if self._wants_tray:
+                self.start_tray()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        if hasattr(self, "display"):
+            self.display.close()
+        for child in reversed(self._children):
+            child.end()
+        shutil.rmtree(self._folder, ignore_errors=True)
+
+    # Building it
+
+    def _make_folders(self):
+        for variable, name in (("HOME", "home"), ("XDG_RUNTIME_DIR", "runtime"),
+                               ("XDG_CONFIG_HOME", "home/.config")):
+            path = os.path.join(self._folder, name)
+            os.makedirs(path, mode=0o700, exist_ok=True)
+            self.environment[variable] = path
+        self.environment["QT_LOGGING_RULES"] = "qt.qpa.theme*=false"
+
+    def start(self, command, **variables):
+        """Starts a child that ends with the desktop; `variables` are added to its environment."""
+        child = Process(command, {**self.environment, **variables}, self._log())
+        self._children.append(child)
+        return child
+
+    def _log(self):
+        return open(os.path.join(self._folder, "output.txt"), "ab")
+
+    def output(self):
+        """All that the children have printed, for the message of a failed test."""
+        with open(os.path.join(self._folder, "output.txt"), errors="replace") as file:
+            return file.read()
+
+    def _start_x_server(self):
+        width, height, depth = self._size
+        reader, writer = os.pipe()
+        # Without -noreset the server starts anew whenever its last client leaves.
+        command = ["Xvfb", "-displayfd", str(writer), "-screen", "0", f"{width}x{height}x{depth}",
+                   "-noreset", "-nolisten", "tcp"]
+        popen = subprocess.Popen(command, env=self.environment, pass_fds=[writer],
+                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                 start_new_session=True)
+        server = Process.__new__(Process)
+        server._popen, server.pid = popen, popen.pid
+        self._children.append(server)
+        os.close(writer)
+        with os.fdopen(reader) as file:
+            number = file.readline().strip()
+        if not number:
+            raise RuntimeError("Xvfb did not start")
+        self.environment["DISPLAY"] = f":{number}"
+
+    def _start_bus(self):
+        path = os.path.join(self.environment["XDG_RUNTIME_DIR"], "bus")
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={path}"
+        config = os.path.join(self._folder, "bus.conf")
+        with open(config, "w") as file:
+            file.write(BUS_CONFIGURATION.format(path=path))
+        self.start(["dbus-daemon", "--nofork", "--nopidfile", f"--config-file={config}"])
+        wait_until(lambda: os.path.exists(path), "the message bus")
+
+    def _start_window_manager(self):
+        self.start(["openbox", "--sm-disable"])
+        check = self.display.intern_atom("_NET_SUPPORTING_WM_CHECK")
+        wait_until(lambda: self.root.get_full_property(check, X.AnyPropertyType), "openbox")
+
+    def start_tray(self):
+        """A host of XEmbed icons in the top right corner."""
+        tray = self.start(["trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
+                           "--height", "24", "--expand", "true"])
+        wait_until(self.tray_owner, "trayer")
+        return tray
+
+    # Looking
+
+    def tray_owner(self):
+        """The window of the tray, or None."""
+        selection = self.display.intern_atom("_NET_SYSTEM_TRAY_S0")
+        owner = self.display.get_selection_owner(selection)
+        return owner if owner != X.NONE else None
+
+    def tray_icon(self, seconds=WAIT_SECONDS):
+        """The rectangle x, y, width, height of the one icon in the tray, when it is there."""
+        def find():
+            window = self._embedded_window(self.root)
+            return window and self._rectangle(window)
+        return wait_until(find, "an icon in the tray", seconds)
+
+    def has_tray_icon(self):
+        return self._embedded_window(self.root) is not None
+
+    def _embedded_window(self, window):
+        from Xlib import error
+        info = self.display.intern_atom("_XEMBED_INFO")
+        try:
+            if window.get_full_property(info, X.AnyPropertyType):
+                state = window.get_attributes().map_state
+                return window if state == X.IsViewable else None
+            children = window.query_tree().children
+        except error.XError:
+            return None
+        for child in children:
+            found = self._embedded_window(child)
+            if found:
+                return found
+        return None
+
+    def _rectangle(self, window):
+        size = window.get_geometry()
+        origin = window.translate_coords(self.root, 0, 0)
+        return -origin.x, -origin.y, size.width, size.height
+
+    def windows(self):
+        """Rectangles of the mapped children of the root window, lowest first."""
+        shown = []
+        for child in self.root.query_tree().children:
+            if child.get_attributes().map_state == X.IsViewable:
+                size = child.get_geometry()
+                shown.append((size.x, size.y, size.width, size.height))
+        return shown
+
+    def pixel(self, x, y):
+        """The colour on the screen as (red, green, blue)."""
+        data = self.root.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFFFF).data
+        return data[2], data[1], data[0]
+
+    def shows_loupe(self, x, y, scale=1.0):
+        """True when the loupe's white ring is around the pixel, above or, at the top edge, beside."""
+        reach = round(LOUPE_RING_RADIUS * scale)
+        at = (x, y - reach) if y >= reach else (x - reach if x >= reach else x + reach, y)
+        return self.pixel(*at) == (255, 255, 255)
+
+    def screenshot(self, path):
+        """Writes the whole screen as a PNG, pixel for pixel."""
+        width, height, _ = self._size
+        rows = []
+        band = 128
+        for y in range(0, height, band):
+            count = min(band, height - y)
+            data = self.root.get_image(0, y, width, count, X.ZPixmap, 0xFFFFFFFF).data
+            for row in range(count):
+                line = data[row * width * 4:(row + 1) * width * 4]
+                rgb = bytearray(width * 3)
+                rgb[0::3], rgb[1::3], rgb[2::3] = line[2::4], line[1::4], line[0::4]
+                rows.append(b"\0" + bytes(rgb))
+        write_png(path, width, height, b"".join(rows))
+
+    # Painting
+
+    def paint(self, rectangles):
+        """Shows a picture under all windows: (x, y, width, height, (red, green, blue)), in order."""
+        width, height, depth = self._size
+        picture = self.root.create_pixmap(width, height, depth)
+        context = picture.create_gc()
+        for x, y, across, down, (red, green, blue) in rectangles:
+            context.change(foreground=red << 16 | green << 8 | blue)
+            picture.fill_rectangle(context, x, y, across, down)
+        self.root.change_attributes(background_pixmap=picture)
+        self.root.clear_area(0, 0, 0, 0)
+        context.free()
+        picture.free()
+        self.display.sync()
+
+    # The hand
+
+    def move(self, x, y):
+        xtest.fake_input(self.display, X.MotionNotify, x=x, y=y)
+        self.display.sync()
+
+    def press(self, button=1):
+        xtest.fake_input(self.display, X.ButtonPress, button)
+        self.display.sync()
+
+    def release(self, button=1):
+        xtest.fake_input(self.display, X.ButtonRelease, button)
+        self.display.sync()
+
+    def click(self, x=None, y=None, button=1):
+        if x is not None:
+            self.move(x, y)
+        self.press(button)
+        self.release(button)
+
+    def key_down(self, name):
+        xtest.fake_input(self.display, X.KeyPress, self._key_code(name))
+        self.display.sync()
+
+    def key_up(self, name):
+        xtest.fake_input(self.display, X.KeyRelease, self._key_code(name))
+        self.display.sync()
+
+    def key(self, *names):
+        """Presses the keys in order and releases them in reverse: key("Shift_L", "Right")."""
+        for name in names:
+            self.key_down(name)
+        for name in reversed(names):
+            self.key_up(name)
+
+    def _key_code(self, name):
+        return self.display.keysym_to_keycode(XK.string_to_keysym(name))
+
+    def pointer(self):
+        position = self.root.query_pointer()
+        return position.root_x, position.root_y
+
+    # The clipboard, as another process sees it
+
+    def clipboard_types(self):
+        return self._xclip("TARGETS").decode().split()
+
+    def clipboard_text(self):
+        return self._xclip("UTF8_STRING").decode()
+
+    def own_clipboard(self, text):
+        """Another program copies `text`."""
+        before = self.clipboard_owner()
+        subprocess.run(["xclip", "-selection", "clipboard"], input=text.encode(), check=True,
+                       env=self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(lambda: self.clipboard_owner() not in (None, before), "xclip's clipboard")
+
+    def clipboard_owner(self):
+        owner = self.display.get_selection_owner(self.display.intern_atom("CLIPBOARD"))
+        return owner.id if owner != X.NONE else None
+
+    def _xclip(self, target):
+        result = subprocess.run(["xclip", "-o", "-selection", "clipboard", "-t", target], check=False,
+                                env=self.environment, capture_output=True, timeout=WAIT_SECONDS)
+        return result.stdout
+
+
+def write_png(path, width, height, rows):
+    """`rows`: each row a zero byte and then three bytes a pixel."""
+    def chunk(kind, data):
+        body = kind + data
+        return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+    header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
+    with open(path, "wb") as file:
+        file.write(b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) +
+                   chunk(b"IDAT", zlib.compress(rows, 6)) + chunk(b"IEND", b""))
