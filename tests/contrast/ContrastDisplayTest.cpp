@@ -1,0 +1,69 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "contrast/ContrastDisplay.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <limits>
+
+namespace dropshade {
+namespace {
+
+TEST(FormatRatio, AWholeRatioHasNoDecimals) {
+    EXPECT_EQ(formatRatio(21.0), "21:1");
+    EXPECT_EQ(formatRatio(1.0), "1:1");
+}
+
+TEST(FormatRatio, AnyOtherHasTwo) {
+    EXPECT_EQ(formatRatio(4.4978), "4.50:1");
+    EXPECT_EQ(formatRatio(4.5), "4.50:1");
+    EXPECT_EQ(formatRatio(3.5449), "3.54:1");
+    EXPECT_EQ(formatRatio(20.9999), "21.00:1");
+}
+
+TEST(FormatLc, CutsTheFractionTowardZeroAndKeepsTheSign) {
+    EXPECT_EQ(formatLc(106.04), "Lc 106");
+    EXPECT_EQ(formatLc(-107.88), "Lc -107");
+    EXPECT_EQ(formatLc(74.9), "Lc 74");
+    EXPECT_EQ(formatLc(-74.9), "Lc -74");
+}
+
+TEST(FormatLc, NeverShowsMinusZero) {
+    EXPECT_EQ(formatLc(0.0), "Lc 0");
+    EXPECT_EQ(formatLc(-0.0), "Lc 0");
+    EXPECT_EQ(formatLc(-0.9), "Lc 0");
+    EXPECT_EQ(formatLc(0.9), "Lc 0");
+}
+
+TEST(WholeLcMagnitude, HasNoSign) {
+    EXPECT_EQ(wholeLcMagnitude(-107.88), 107);
+    EXPECT_EQ(wholeLcMagnitude(74.9), 74);
+    EXPECT_EQ(wholeLcMagnitude(-0.5), 0);
+}
+
+TEST(FormatThreshold, IsWholeOrHasOneDecimal) {
+    EXPECT_EQ(formatThreshold(3.0), "3");
+    EXPECT_EQ(formatThreshold(7.0), "7");
+    EXPECT_EQ(formatThreshold(4.5), "4.5");
+}
+
+TEST(ContrastTexts, TakeAnyDouble) {
+    EXPECT_EQ(formatRatio(std::numeric_limits<double>::max()).size(), 309u + 2u);
+    EXPECT_EQ(formatRatio(std::numeric_limits<double>::infinity()), "inf:1");
+    EXPECT_EQ(formatLc(-std::numeric_limits<double>::max()).size(), 3u + 1u + 309u);
+}
+
+TEST(ContrastTexts, KeepTheFullStopInEveryLocale) {
+    const char* const previous = std::setlocale(LC_ALL, nullptr);
+    const std::string restored = previous;
+    for (const char* const locale : {"de_DE.UTF-8", "fr_FR.UTF-8", "C.UTF-8"}) {
+        std::setlocale(LC_ALL, locale);
+        EXPECT_EQ(formatRatio(4.5), "4.50:1");
+        EXPECT_EQ(formatThreshold(4.5), "4.5");
+    }
+    std::setlocale(LC_ALL, restored.c_str());
+}
+
+} // namespace
+} // namespace dropshade
