@@ -11,12 +11,12 @@ namespace {
 std::optional<Qt::MouseButton> buttonOf(QSystemTrayIcon::ActivationReason reason) {
     switch (reason) {
     case QSystemTrayIcon::Trigger:
+    case QSystemTrayIcon::DoubleClick: // The second of two quick clicks comes under this name only.
         return Qt::LeftButton;
     case QSystemTrayIcon::Context:
         return Qt::RightButton;
     case QSystemTrayIcon::MiddleClick:
         return Qt::MiddleButton;
-    case QSystemTrayIcon::DoubleClick: // Its first click came as a trigger.
     case QSystemTrayIcon::Unknown:
         break;
     }
@@ -32,10 +32,12 @@ TrayStatusItem::TrayStatusItem() {
 void TrayStatusItem::setIcon(const QIcon& icon) {
     const bool isFirst = m_icon.isNull();
     m_icon = icon;
-    if (m_trayIcon)
+    if (m_trayIcon) {
         m_trayIcon->setIcon(icon);
-    else if (isFirst)
+        m_trayIcon->setVisible(!icon.isNull());
+    } else if (isFirst) {
         m_hostWatch.start();
+    }
 }
 
 QRect TrayStatusItem::geometry() const {
