@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/TrayStatusItem.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWidget>
 
 namespace dropshade {
 
@@ -11,16 +13,25 @@ namespace {
 std::optional<Qt::MouseButton> buttonOf(QSystemTrayIcon::ActivationReason reason) {
     switch (reason) {
     case QSystemTrayIcon::Trigger:
-    case QSystemTrayIcon::DoubleClick: // The second of two quick clicks comes under this name only.
         return Qt::LeftButton;
     case QSystemTrayIcon::Context:
         return Qt::RightButton;
     case QSystemTrayIcon::MiddleClick:
         return Qt::MiddleButton;
+    case QSystemTrayIcon::DoubleClick: // Seen by the event filter.
     case QSystemTrayIcon::Unknown:
         break;
     }
     return std::nullopt;
+}
+
+/// The widget that Qt embeds in the tray, where the tray takes widgets.
+QWidget* embeddedWidget() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QSystemTrayIconSys"))
+            return widget;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -61,6 +72,18 @@ void TrayStatusItem::createTrayIcon() {
                     Q_EMIT clicked({*button, modifiers()});
             });
     m_trayIcon->show();
+    if (QWidget* widget = embeddedWidget())
+        widget->installEventFilter(this);
+}
+
+bool TrayStatusItem::eventFilter(QObject* watched, QEvent* event) {
+    // Of two quick clicks Qt reports the second as a double click, and with the right button not at
+    // all; here each click counts for itself.
+    if (event->type() != QEvent::MouseButtonDblClick)
+        return StatusItem::eventFilter(watched, event);
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    Q_EMIT clicked({mouse->button(), mouse->modifiers()});
+    return true;
 }
 
 } // namespace dropshade
