@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """What the tests on the virtual desktop share: the program, started anew for each test."""
 
+import contextlib
 import os
 import pathlib
 import sqlite3
@@ -86,18 +87,25 @@ class DropshadeCase(unittest.TestCase):
         return self.copied_text()
 
     def copied_text(self, before="before"):
-        wait_until(lambda: self.desktop.clipboard_text() != before, "the copied text")
+        try:
+            wait_until(lambda: self.desktop.clipboard_text() != before, "the copied text")
+        except TimeoutError:
+            self.fail(f"no text copied; pointer {self.desktop.pointer()}, loupe windows "
+                      f"{self.loupe_windows()}, copies counted {self.copies_counted()}, "
+                      f"clipboard owner {self.desktop.clipboard_owner()}, "
+                      f"program ended {self.program.returncode}\n{self.desktop.output()}")
         self.wait_for_no_loupe()
         return self.desktop.clipboard_text()
 
     # What the program remembers
 
-    def _settings(self):
-        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
-        return sqlite3.connect(next(folder.rglob("defaults.sqlite")))
-
     def setting(self, key):
-        with self._settings() as settings:
+        """What the store holds under the key; None where it is unset or nothing was ever written."""
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        file = next(folder.rglob("defaults.sqlite"), None)
+        if not file:
+            return None
+        with contextlib.closing(sqlite3.connect(file)) as settings:
             row = settings.execute("SELECT value FROM defaults WHERE key = ?", (key,)).fetchone()
         return row and row[0]
 

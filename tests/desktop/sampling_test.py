@@ -54,7 +54,9 @@ class Sampling(DropshadeCase):
         self.desktop.click(button=3)
         self.wait_for_loupe()
         self.assertEqual(self.loupe_windows(), 2)
-        self.desktop.click(200, 200)
+        self.desktop.move(200, 200)
+        wait_until(lambda: self.desktop.shows_loupe(200, 200), "the loupe at the pixel")
+        self.desktop.click()
         self.copied_text()
         self.assertEqual(self.copies_counted(), counted + 1)
 
@@ -131,6 +133,13 @@ class Sampling(DropshadeCase):
         self.wait_for_loupe()
         self.desktop.click(self.WIDTH - 60, 50)
         self.assertEqual(self.copied_text(), hex_text(color))
+
+    def test_the_text_gets_to_the_clipboard_though_another_program_copied_during_the_sample(self):
+        color = self.desktop.pixel(600, 500)
+        self.start_pick()
+        self.desktop.own_clipboard("copied meanwhile")
+        self.desktop.click(600, 500)
+        self.assertEqual(self.copied_text("copied meanwhile"), hex_text(color))
 
     def test_the_text_is_still_there_for_every_later_reader(self):
         text = self.pick(10, 700)
