@@ -3,6 +3,7 @@
 #pragma once
 
 #include "imagepalette/PixelBuffer.h"
+#include "imagepalette/PixelTotals.h"
 
 #include <cstdint>
 #include <span>
@@ -14,28 +15,6 @@ namespace dropshade {
 /// holds for a box holds for all its pixels, so that work per pixel becomes work per box.
 class ColorTree {
 public:
-    /// What a group of pixels adds up to.
-    struct Totals {
-        std::int64_t red = 0;
-        std::int64_t green = 0;
-        std::int64_t blue = 0;
-        std::int64_t count = 0;
-
-        void add(const Totals& other) {
-            red += other.red;
-            green += other.green;
-            blue += other.blue;
-            count += other.count;
-        }
-
-        void subtract(const Totals& other) {
-            red -= other.red;
-            green -= other.green;
-            blue -= other.blue;
-            count -= other.count;
-        }
-    };
-
     /// A leaf has at most this many colours.
     static constexpr std::uint32_t leafSize = 128;
 
@@ -47,7 +26,7 @@ public:
         std::uint32_t nextNode = 0;
         Pixel min;
         Pixel max;
-        Totals totals;
+        PixelTotals totals;
     };
 
     explicit ColorTree(std::span<const Pixel> pixels);
@@ -63,7 +42,7 @@ public:
     [[nodiscard]] const float* blue() const { return m_blue.data(); }
 
     /// What the pixels of one colour add up to.
-    [[nodiscard]] Totals totals(std::uint32_t color) const {
+    [[nodiscard]] PixelTotals totals(std::uint32_t color) const {
         const std::int64_t count = m_counts[color];
         return {static_cast<std::int64_t>(m_red[color]) * count,
                 static_cast<std::int64_t>(m_green[color]) * count,

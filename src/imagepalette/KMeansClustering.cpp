@@ -117,7 +117,7 @@ bool KMeansClustering::pass() {
     std::iota(m_candidates.begin(), m_candidates.end(), 0);
     assignNode(0, 0);
     for (std::size_t index = 0; index < m_centres.size(); ++index) {
-        const ColorTree::Totals& totals = m_totals[index];
+        const PixelTotals& totals = m_totals[index];
         if (totals.count == 0)
             continue;
         const auto count = static_cast<double>(totals.count);
@@ -263,7 +263,7 @@ void KMeansClustering::assignColor(std::uint32_t color, CentreIndex centre) {
     CentreIndex& current = m_centreOfColor.data()[color];
     if (current == centre)
         return;
-    const ColorTree::Totals totals = m_tree.totals(color);
+    const PixelTotals totals = m_tree.totals(color);
     m_totals[static_cast<std::size_t>(current)].subtract(totals);
     m_totals[static_cast<std::size_t>(centre)].add(totals);
     current = centre;

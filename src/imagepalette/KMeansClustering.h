@@ -47,7 +47,7 @@ private:
     const ColorTree& m_tree;
     std::vector<Centre> m_centres;
     /// What the pixels of each centre add up to.
-    std::vector<ColorTree::Totals> m_totals;
+    std::vector<PixelTotals> m_totals;
     /// The centre of all colours of a node, or none where it has to be asked of the nodes below,
     /// and in the end of the colours. Nothing is told to those below until one of them has to know.
     std::vector<CentreIndex> m_centreOfNode;

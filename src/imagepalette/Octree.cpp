@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "imagepalette/ImageQuantizer.h"
+#include "imagepalette/PixelTotals.h"
 
 #include <algorithm>
 #include <cassert>
@@ -20,24 +21,14 @@ struct Node {
     /// The octants on the way from the root, three bits each, filled up to the deepest level: in
     /// the order of a walk through the tree, and the same for a node and its first child.
     std::uint32_t path = 0;
-    std::int64_t redSum = 0;
-    std::int64_t greenSum = 0;
-    std::int64_t blueSum = 0;
-    std::int64_t pixelCount = 0;
-
-    void add(const Node& other) {
-        redSum += other.redSum;
-        greenSum += other.greenSum;
-        blueSum += other.blueSum;
-        pixelCount += other.pixelCount;
-    }
+    PixelTotals totals;
 };
 
 /// One level of the tree, its nodes in the order in which the pixels reach them.
 using Level = std::vector<Node>;
 
 bool rarer(const Node& first, const Node& second) {
-    return first.pixelCount < second.pixelCount;
+    return first.totals.count < second.totals.count;
 }
 
 /// The level below `parents`. `nodeOfPixel` holds each pixel's node there, and then its node here.
@@ -58,13 +49,10 @@ Level levelBelow(const Level& parents, int level, std::span<const Pixel> pixels,
         std::uint32_t& child = childOf.data()[current[at] * 8 + octant];
         if (child == noNode) {
             child = static_cast<std::uint32_t>(nodes.size());
-            nodes.push_back({current[at], parents[current[at]].path | octant << pathShift});
+            nodes.push_back({current[at], parents[current[at]].path | octant << pathShift, {}});
         }
         current[at] = child;
-        node[child].redSum += pixel.red;
-        node[child].greenSum += pixel.green;
-        node[child].blueSum += pixel.blue;
-        ++node[child].pixelCount;
+        node[child].totals.add({pixel.red, pixel.green, pixel.blue, 1});
     }
     return nodes;
 }
@@ -80,17 +68,17 @@ void mergeRarest(Siblings& children, std::size_t merges) {
         return rarer(children[first], children[second]);
     });
     for (std::size_t at = 1; at <= merges; ++at) {
-        children[order.front()].add(children[order[at]]);
-        children[order[at]].pixelCount = 0;
+        children[order.front()].totals.add(children[order[at]].totals);
+        children[order[at]].totals.count = 0;
     }
-    std::erase_if(children, [](const Node& child) { return child.pixelCount == 0; });
+    std::erase_if(children, [](const Node& child) { return child.totals.count == 0; });
 }
 
 Node sumOf(const Siblings& children) {
     // The first child's path is as good as the parent's own: nothing else is left below it.
     Node sum = children.front();
     std::for_each(children.begin() + 1, children.end(),
-                  [&sum](const Node& child) { sum.add(child); });
+                  [&sum](const Node& child) { sum.totals.add(child.totals); });
     return sum;
 }
 
@@ -105,7 +93,7 @@ Level reduced(const Level& leaves, std::size_t parentCount, std::size_t k) {
     std::vector<std::int64_t> familyCounts(parentCount, 0);
     for (const Node& leaf : leaves) {
         families[leaf.parent].push_back(leaf);
-        familyCounts[leaf.parent] += leaf.pixelCount;
+        familyCounts[leaf.parent] += leaf.totals.count;
     }
     std::vector<std::size_t> order(parentCount);
     std::iota(order.begin(), order.end(), std::size_t{0});
@@ -132,9 +120,9 @@ Level reduced(const Level& leaves, std::size_t parentCount, std::size_t k) {
 }
 
 QuantizedColor meanOf(const Node& node) {
-    return {static_cast<std::uint8_t>(node.redSum / node.pixelCount),
-            static_cast<std::uint8_t>(node.greenSum / node.pixelCount),
-            static_cast<std::uint8_t>(node.blueSum / node.pixelCount), node.pixelCount};
+    const auto& [red, green, blue, count] = node.totals;
+    return {static_cast<std::uint8_t>(red / count), static_cast<std::uint8_t>(green / count),
+            static_cast<std::uint8_t>(blue / count), count};
 }
 
 } // namespace

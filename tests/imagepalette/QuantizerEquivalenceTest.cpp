@@ -79,10 +79,10 @@ TEST(Octree, EqualsTheReference) {
     });
 }
 
-TEST(Octree, EqualsTheReferenceForEveryCountOfOneImage) {
+TEST(Octree, EqualsTheReferenceForManyCountsOfOneImage) {
     std::mt19937_64 generator(15);
     const std::vector<Pixel> pixels = SampleImages::scene(generator, 40, 40);
-    for (int k = 1; k <= 1600; ++k)
+    for (int k = 1; k <= 1600; k += k < 64 ? 1 : 13)
         ASSERT_EQ(ImageQuantizer::octree(pixels, k), ReferenceQuantizer::octree(pixels, k)) << k;
 }
 
