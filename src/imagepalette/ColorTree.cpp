@@ -57,13 +57,13 @@ void sortByDigit(int shift, const std::vector<std::uint32_t>& from,
         to.data()[next[key >> shift & digitMask]++] = key;
 }
 
-void extend(Pixel& min, Pixel& max, Pixel low, Pixel high) {
-    min.red = std::min(min.red, low.red);
-    min.green = std::min(min.green, low.green);
-    min.blue = std::min(min.blue, low.blue);
-    max.red = std::max(max.red, high.red);
-    max.green = std::max(max.green, high.green);
-    max.blue = std::max(max.blue, high.blue);
+void extend(ColorTree::Node& node, const ColorTree::Corner& min, const ColorTree::Corner& max) {
+    node.min.red = std::min(node.min.red, min.red);
+    node.min.green = std::min(node.min.green, min.green);
+    node.min.blue = std::min(node.min.blue, min.blue);
+    node.max.red = std::max(node.max.red, max.red);
+    node.max.green = std::max(node.max.green, max.green);
+    node.max.blue = std::max(node.max.blue, max.blue);
 }
 
 } // namespace
@@ -102,9 +102,12 @@ void ColorTree::collectColors(std::span<const Pixel> pixels) {
 
 void ColorTree::addNode(std::uint32_t firstColor, std::uint32_t endColor, int bit) {
     const auto index = static_cast<std::uint32_t>(m_nodes.size());
-    m_nodes.push_back({firstColor, endColor, index + 1, {255, 255, 255}, {0, 0, 0}, {}});
+    Node& node = m_nodes.emplace_back();
+    node.firstColor = firstColor;
+    node.endColor = endColor;
+    node.nextNode = index + 1;
     if (endColor - firstColor <= leafSize) {
-        fillLeaf(m_nodes.back());
+        fillLeaf(node);
         return;
     }
     // Steps over the octants that all the colours share.
@@ -124,8 +127,8 @@ void ColorTree::addNode(std::uint32_t firstColor, std::uint32_t endColor, int bi
 
 void ColorTree::fillLeaf(Node& node) const {
     for (std::uint32_t at = node.firstColor; at < node.endColor; ++at) {
-        const Pixel pixel = pixelOf(m_keys[at]);
-        extend(node.min, node.max, pixel, pixel);
+        const Corner color{m_red.data()[at], m_green.data()[at], m_blue.data()[at]};
+        extend(node, color, color);
         node.totals.add(totals(at));
     }
 }
@@ -133,7 +136,7 @@ void ColorTree::fillLeaf(Node& node) const {
 void ColorTree::fillFromChildren(std::uint32_t index) {
     Node& node = m_nodes[index];
     for (std::uint32_t child = index + 1; child < node.nextNode; child = m_nodes[child].nextNode) {
-        extend(node.min, node.max, m_nodes[child].min, m_nodes[child].max);
+        extend(node, m_nodes[child].min, m_nodes[child].max);
         node.totals.add(m_nodes[child].totals);
     }
 }

@@ -15,6 +15,13 @@ namespace dropshade {
 /// holds for a box holds for all its pixels, so that work per pixel becomes work per box.
 class ColorTree {
 public:
+    /// A corner of a box, each coordinate a whole number.
+    struct Corner {
+        double red = 0.0;
+        double green = 0.0;
+        double blue = 0.0;
+    };
+
     /// A leaf has at most this many colours.
     static constexpr std::uint32_t leafSize = 128;
 
@@ -24,8 +31,8 @@ public:
         std::uint32_t firstColor = 0;
         std::uint32_t endColor = 0;
         std::uint32_t nextNode = 0;
-        Pixel min;
-        Pixel max;
+        Corner min{255.0, 255.0, 255.0};
+        Corner max{0.0, 0.0, 0.0};
         PixelTotals totals;
     };
 
@@ -43,10 +50,10 @@ public:
 
     /// What the pixels of one colour add up to.
     [[nodiscard]] PixelTotals totals(std::uint32_t color) const {
-        const std::int64_t count = m_counts[color];
-        return {static_cast<std::int64_t>(m_red[color]) * count,
-                static_cast<std::int64_t>(m_green[color]) * count,
-                static_cast<std::int64_t>(m_blue[color]) * count, count};
+        const std::int64_t count = m_counts.data()[color];
+        return {static_cast<std::int64_t>(m_red.data()[color]) * count,
+                static_cast<std::int64_t>(m_green.data()[color]) * count,
+                static_cast<std::int64_t>(m_blue.data()[color]) * count, count};
     }
 
     /// The root comes first; none where there are no pixels.

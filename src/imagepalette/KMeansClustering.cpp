@@ -28,11 +28,6 @@ double leastExcess(double near, double far, double min, double max) {
     return toFar * (near + far) - 2.0 * std::max(toFar * min, toFar * max);
 }
 
-Centre centreOf(Pixel pixel) {
-    return {static_cast<double>(pixel.red), static_cast<double>(pixel.green),
-            static_cast<double>(pixel.blue)};
-}
-
 // Four colours side by side. Written out, since compilers make branches of the choices in `add`.
 constexpr std::uint32_t lanes = 4;
 using Floats = float __attribute__((vector_size(sizeof(float) * lanes)));
@@ -149,8 +144,8 @@ void KMeansClustering::assignNode(std::uint32_t index, std::size_t first) {
 /// Appends those of the candidates from `first` to `end` that may be nearest to some pixel.
 void KMeansClustering::keepNearest(std::uint32_t index, std::size_t first, std::size_t end) {
     const ColorTree::Node& node = m_tree.nodes()[index];
-    const Centre min = centreOf(node.min);
-    const Centre max = centreOf(node.max);
+    const ColorTree::Corner min = node.min;
+    const ColorTree::Corner max = node.max;
     const CentreIndex rival = rivalOf(index, first, end);
     const Centre near = m_centres[static_cast<std::size_t>(rival)];
     m_candidates.resize(end + (end - first));
