@@ -57,6 +57,12 @@ public:
         return m_endian == Endian::big ? first << 16 | second : second << 16 | first;
     }
 
+    std::uint64_t u64() {
+        const std::uint64_t first = u32();
+        const std::uint64_t second = u32();
+        return m_endian == Endian::big ? first << 32 | second : second << 32 | first;
+    }
+
 private:
     std::span<const std::uint8_t> m_bytes;
     Endian m_endian;

@@ -106,16 +106,13 @@ QImage decoded(const heif_image_handle* handle) {
 
 } // namespace
 
-std::optional<QImage> decodeHeif(const QByteArray& data,
-                                 const std::function<bool(QSize)>& accepts) {
+std::optional<QImage> decodeHeif(const QByteArray& data) {
     const HeifContext context = contextOf(data);
     const Handle handle = context ? primaryImageOf(context.get()) : nullptr;
     if (!handle)
         return std::nullopt;
     const QSize size(heif_image_handle_get_width(handle.get()),
                      heif_image_handle_get_height(handle.get()));
-    if (!accepts(size))
-        return std::nullopt;
     QImage image = decoded(handle.get());
     if (image.size() != size)
         return std::nullopt;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "imagepalette/ImageLoader.h"
 
+#include "imagepalette/HeifCheck.h"
 #include "imagepalette/HeifDecoder.h"
 #include "imagepalette/ImageFileCheck.h"
 
@@ -28,15 +29,16 @@ constexpr qint64 mostPixelsPerByte = 256;
 // What the decoder of a JPEG reduces while it decodes need not fit in memory whole.
 constexpr qint64 mostJpegPixels = 200 * 1000 * 1000;
 constexpr qint64 mostDecodedBytes = 128 * 1024 * 1024;
-constexpr qint64 mostHeifPixels = 50 * 1000 * 1000;
+// A picture in tiles counts twice, once in them and once put together; depths and the like come on
+// top.
+constexpr std::uint64_t mostHeifWork = 140 * 1000 * 1000;
 
 qint64 areaOf(QSize size) {
     return static_cast<qint64>(size.width()) * size.height();
 }
 
-bool isInProportion(QSize size, qint64 fileSize) {
-    return size.width() >= 1 && size.height() >= 1 &&
-           areaOf(size) <= freePixels + mostPixelsPerByte * fileSize;
+qint64 proportionatePixels(qint64 fileSize) {
+    return freePixels + mostPixelsPerByte * fileSize;
 }
 
 std::span<const std::uint8_t> bytesOf(const QByteArray& data) {
@@ -121,7 +123,8 @@ std::optional<LoadedImage> loadByReader(const QByteArray& data, ImageFileFormat 
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     const QSize size = reader.size();
-    if (!isInProportion(size, data.size()) || !fitsInMemory(reader, format))
+    if (size.isEmpty() || areaOf(size) > proportionatePixels(data.size()) ||
+        !fitsInMemory(reader, format))
         return std::nullopt;
     const QSize target = reduced(size, ImageLoader::longestSide);
     if (target != size && reader.supportsOption(QImageIOHandler::ScaledSize))
@@ -135,9 +138,11 @@ std::optional<LoadedImage> loadByReader(const QByteArray& data, ImageFileFormat 
 }
 
 std::optional<LoadedImage> loadHeif(const QByteArray& data) {
-    auto image = decodeHeif(data, [&data](QSize size) {
-        return isInProportion(size, data.size()) && areaOf(size) <= mostHeifPixels;
-    });
+    const auto work = heifDecodingPixels(bytesOf(data));
+    if (!work || *work > mostHeifWork ||
+        static_cast<qint64>(*work) > 2 * proportionatePixels(data.size()))
+        return std::nullopt;
+    auto image = decodeHeif(data);
     if (!image)
         return std::nullopt;
     const QSize size = image->size();

@@ -4,6 +4,8 @@
 
 #include "imagepalette/SampleFiles.h"
 
+#include <QDir>
+#include <QFile>
 #include <QLoggingCategory>
 #include <QtEndian>
 
@@ -118,6 +120,26 @@ TEST_F(ImageLoaderLimits, AHeicOfHugeSidesGivesNoImage) {
     for (const quint32 side : {63u, 2000u, 6000u, 60'000u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
         EXPECT_FALSE(loads(patched(file, sides, big32(side) + big32(side)))) << side;
         EXPECT_FALSE(loads(patched(file, sides, big32(side)))) << side;
+    }
+}
+
+TEST_F(ImageLoaderLimits, AHeicThatRepeatsItsHeadersInItsDataGivesNoImage) {
+    const QByteArray file = heic(picture(64, 64));
+    if (file.isEmpty())
+        GTEST_SKIP() << "no HEVC encoder";
+    // The first unit of the coded data, turned from a slice into a sequence header.
+    const qsizetype data = file.indexOf("mdat") + 4;
+    EXPECT_FALSE(loads(patched(file, data + 4, QByteArray(1, 33 << 1))));
+}
+
+TEST_F(ImageLoaderLimits, FilesThatOnceBrokeTheLoaderGiveNoImage) {
+    const QDir corpus(QStringLiteral(DROPSHADE_CORPUS));
+    const QStringList names = corpus.entryList(QDir::Files);
+    EXPECT_FALSE(names.isEmpty());
+    for (const QString& name : names) {
+        QFile file(corpus.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(loads(file.readAll())) << name.toStdString();
     }
 }
 
