@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace dropshade {
@@ -34,9 +35,16 @@ struct Box {
     Bytes body;
 };
 
-/// The boxes that follow each other in `bytes`; none where the last one is cut short.
-std::optional<std::vector<Box>> boxesIn(Bytes bytes) {
-    std::vector<Box> boxes;
+/// Boxes that follow each other.
+struct Boxes {
+    std::vector<Box> all;
+    /// False where the bytes do not end with a box's end.
+    bool areWhole = true;
+};
+
+/// The boxes up to the first one that is cut short.
+Boxes leadingBoxes(Bytes bytes) {
+    Boxes boxes;
     while (!bytes.empty()) {
         ByteReader reader(bytes);
         std::uint64_t size = reader.u32();
@@ -45,13 +53,19 @@ std::optional<std::vector<Box>> boxesIn(Bytes bytes) {
             size = reader.u64();
         else if (size == 0)
             size = bytes.size();
-        if (reader.failed() || size < reader.position() || size > bytes.size())
-            return std::nullopt;
+        boxes.areWhole = !reader.failed() && size >= reader.position() && size <= bytes.size();
+        if (!boxes.areWhole)
+            break;
         const auto end = static_cast<std::size_t>(size);
-        boxes.push_back({type, bytes.subspan(reader.position(), end - reader.position())});
+        boxes.all.push_back({type, bytes.subspan(reader.position(), end - reader.position())});
         bytes = bytes.subspan(end);
     }
     return boxes;
+}
+
+std::optional<std::vector<Box>> boxesIn(Bytes bytes) {
+    Boxes boxes = leadingBoxes(bytes);
+    return boxes.areWhole ? std::optional(std::move(boxes.all)) : std::nullopt;
 }
 
 /// The one box of a type; empty bytes where there is none, nothing where there are several.
@@ -84,8 +98,9 @@ public:
     /// False where something is missing, cut short or told twice.
     bool read(Bytes file) {
         m_file = file;
-        const auto top = boxesIn(file);
-        const auto meta = top ? onlyBox(*top, code("meta")) : std::nullopt;
+        // Cameras hang bytes of their own on the end; the locations tell whether anything is
+        // missing.
+        const auto meta = onlyBox(leadingBoxes(file).all, code("meta"));
         const auto parts = meta && meta->size() > 4 ? boxesIn(meta->subspan(4)) : std::nullopt;
         if (!parts)
             return false;

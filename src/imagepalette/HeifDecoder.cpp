@@ -95,13 +95,14 @@ QImage decoded(const heif_image_handle* handle) {
                             ? QImage::Format_RGBA8888_Premultiplied
                             : QImage::Format_RGBA8888;
     const auto release = [](void* owned) { heif_image_release(static_cast<heif_image*>(owned)); };
-    if (!plane) {
+    QImage result;
+    if (plane)
+        result = QImage(plane, heif_image_get_width(image, heif_channel_interleaved),
+                        heif_image_get_height(image, heif_channel_interleaved), stride, format,
+                        release, image);
+    if (result.isNull())
         release(image);
-        return {};
-    }
-    return QImage(plane, heif_image_get_width(image, heif_channel_interleaved),
-                  heif_image_get_height(image, heif_channel_interleaved), stride, format, release,
-                  image);
+    return result;
 }
 
 } // namespace
@@ -114,7 +115,7 @@ std::optional<QImage> decodeHeif(const QByteArray& data) {
     const QSize size(heif_image_handle_get_width(handle.get()),
                      heif_image_handle_get_height(handle.get()));
     QImage image = decoded(handle.get());
-    if (image.size() != size)
+    if (image.isNull() || image.size() != size)
         return std::nullopt;
     image.setColorSpace(colorSpaceOf(handle.get()));
     return image;

@@ -60,6 +60,13 @@ TEST(HeifDecodingPixels, AreThoseAnnouncedWhereTheseAreMore) {
               std::uint64_t{1} << 32);
 }
 
+TEST(HeifDecodingPixels, AreToldInSpiteOfBytesAfterTheLastBox) {
+    const QByteArray file = heic(picture(64, 64));
+    if (file.isEmpty())
+        GTEST_SKIP() << "no HEVC encoder";
+    EXPECT_EQ(pixelsOf(file + "tail"), 64u * 64u);
+}
+
 TEST(HeifDecodingPixels, AreNoneForAFileCutShort) {
     const QByteArray file = heic(picture(64, 64));
     if (file.isEmpty())
