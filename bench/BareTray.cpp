@@ -1,6 +1,6 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
-// The least that a tray program of Qt Widgets can be: the floor that the program is measured against.
+// The least that a tray program of Qt Widgets can be: the floor to measure the program against.
 #include <QApplication>
 #include <QIcon>
 #include <QPixmap>
