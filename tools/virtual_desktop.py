@@ -15,7 +15,7 @@ import tempfile
 import time
 import zlib
 
-from Xlib import X, XK, display
+from Xlib import X, XK, display, error
 from Xlib.ext import xtest
 
 WAIT_SECONDS = 10.0
@@ -123,12 +123,10 @@ class VirtualDesktop:
 
     def start(self, command, **variables):
         """Starts a child that ends with the desktop; `variables` are added to its environment."""
-        child = Process(command, {**self.environment, **variables}, self._log())
+        with open(os.path.join(self._folder, "output.txt"), "ab") as log:
+            child = Process(command, {**self.environment, **variables}, log)
         self._children.append(child)
         return child
-
-    def _log(self):
-        return open(os.path.join(self._folder, "output.txt"), "ab")
 
     def output(self):
         """All that the children have printed, for the message of a failed test."""
@@ -188,23 +186,31 @@ class VirtualDesktop:
         def find():
             window = self._embedded_window(self.root)
             return window and self._rectangle(window)
-        return wait_until(find, "an icon in the tray", seconds)
+
+        def find_settled():
+            # The tray moves its icons while it makes room for them.
+            before = find()
+            time.sleep(0.03)
+            return before if before == find() else None
+        return wait_until(find_settled, "an icon in the tray", seconds)
 
     def has_tray_icon(self):
         return self._embedded_window(self.root) is not None
 
-    def _embedded_window(self, window):
-        from Xlib import error
+    def _embedded_window(self, window, depth=0):
+        """A mapped window that takes part in XEmbed and is neither a menu nor managed: an icon."""
         info = self.display.intern_atom("_XEMBED_INFO")
+        state = self.display.intern_atom("WM_STATE")
         try:
-            if window.get_full_property(info, X.AnyPropertyType):
-                state = window.get_attributes().map_state
-                return window if state == X.IsViewable else None
+            if depth > 1 and window.get_full_property(info, X.AnyPropertyType):
+                if window.get_full_property(state, X.AnyPropertyType):
+                    return None
+                return window if window.get_attributes().map_state == X.IsViewable else None
             children = window.query_tree().children
         except error.XError:
             return None
         for child in children:
-            found = self._embedded_window(child)
+            found = self._embedded_window(child, depth + 1)
             if found:
                 return found
         return None
@@ -218,9 +224,12 @@ class VirtualDesktop:
         """Rectangles of the mapped children of the root window, lowest first."""
         shown = []
         for child in self.root.query_tree().children:
-            if child.get_attributes().map_state == X.IsViewable:
-                size = child.get_geometry()
-                shown.append((size.x, size.y, size.width, size.height))
+            try:
+                if child.get_attributes().map_state == X.IsViewable:
+                    size = child.get_geometry()
+                    shown.append((size.x, size.y, size.width, size.height))
+            except error.XError:
+                continue  # It has gone meanwhile.
         return shown
 
     def pixel(self, x, y):
@@ -248,6 +257,63 @@ class VirtualDesktop:
                 rgb[0::3], rgb[1::3], rgb[2::3] = line[2::4], line[1::4], line[0::4]
                 rows.append(b"\0" + bytes(rgb))
         write_png(path, width, height, b"".join(rows))
+
+    def raw_pixel(self, x, y):
+        """The pixel's value as the server keeps it."""
+        data = self.root.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFFFF).data
+        return int.from_bytes(data[:self._size[2] // 8 if self._size[2] <= 16 else 4], "little")
+
+    def grab(self, x, y, width, height):
+        """The bytes of a part of the screen, for comparing."""
+        return self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF).data
+
+    def keyboard_is_grabbed(self):
+        """True while some program keeps the keyboard to itself."""
+        status = self.root.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime)
+        if status == X.GrabSuccess:
+            self.display.ungrab_keyboard(X.CurrentTime)
+            self.display.sync()
+        return status != X.GrabSuccess
+
+    def open_menu(self):
+        """The rectangle of an open menu or other unmanaged window of a Qt program, or None."""
+        for child in self.root.query_tree().children:
+            try:
+                shown = child.get_attributes().map_state == X.IsViewable
+                if shown and child.get_wm_protocols() and child.get_wm_class():
+                    return self._rectangle(child)
+            except error.XError:
+                continue
+        return None
+
+    def wait_for_menu(self):
+        """An open menu that has the keyboard. To ask the server who has it would be to take it away
+        from a program that is about to, so this gives the program a moment."""
+        wait_until(self.open_menu, "a menu")
+        time.sleep(0.1)
+
+    def pause_after_closing_click(self):
+        """As long as a program may take a click for the one that closed its menu."""
+        time.sleep(0.3)
+
+    def bus_has_name(self, name):
+        result = subprocess.run(
+            ["dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus",
+             "/org/freedesktop/DBus", "org.freedesktop.DBus.NameHasOwner", f"string:{name}"],
+            env=self.environment, capture_output=True, text=True, check=False)
+        return "true" in result.stdout
+
+    def listening_window(self, x, y, width, height):
+        """A window of another program that notes the mouse buttons it sees."""
+        return ListeningWindow(self.environment["DISPLAY"], x, y, width, height)
+
+    def split_into_monitors(self, *monitors):
+        """Monitors as (name, x, y, width, height), all on the one big screen."""
+        for index, (name, x, y, width, height) in enumerate(monitors):
+            geometry = f"{width}/211x{height}/158+{x}+{y}"
+            output = "screen" if index == 0 else "none"
+            subprocess.run(["xrandr", "--setmonitor", name, geometry, output], check=True,
+                           env=self.environment)
 
     # Painting
 
@@ -330,6 +396,35 @@ class VirtualDesktop:
         result = subprocess.run(["xclip", "-o", "-selection", "clipboard", "-t", target], check=False,
                                 env=self.environment, capture_output=True, timeout=WAIT_SECONDS)
         return result.stdout
+
+
+class ListeningWindow:
+    """`with` it: an override-redirect window on a connection of its own."""
+
+    def __init__(self, display_name, x, y, width, height):
+        self._display = display.Display(display_name)
+        screen = self._display.screen()
+        self._window = screen.root.create_window(
+            x, y, width, height, 0, screen.root_depth, override_redirect=True,
+            background_pixel=0x808080, event_mask=X.ButtonPressMask | X.ButtonReleaseMask)
+        self._clicks = []
+
+    def __enter__(self):
+        self._window.map()
+        self._display.sync()
+        return self
+
+    def __exit__(self, *_):
+        self._display.close()
+
+    def clicks_seen(self):
+        """The events so far: (type, button)."""
+        self._display.sync()
+        while self._display.pending_events():
+            event = self._display.next_event()
+            if event.type in (X.ButtonPress, X.ButtonRelease):
+                self._clicks.append((event.type, event.detail))
+        return self._clicks
 
 
 def write_png(path, width, height, rows):

@@ -1,0 +1,116 @@
+# Copyright (c) 2026 The Dropshade authors
+# SPDX-License-Identifier: MIT
+"""What the tests on the virtual desktop share: the program, started anew for each test."""
+
+import os
+import pathlib
+import random
+import sqlite3
+import sys
+import unittest
+
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(PROJECT / "tools"))
+
+from virtual_desktop import VirtualDesktop, wait_until  # noqa: E402
+
+PROGRAM = os.environ.get("DROPSHADE", str(PROJECT / "build/release/src/dropshade"))
+SCREENSHOTS = pathlib.Path(os.environ.get("SCREENSHOTS", "screenshots"))
+
+
+def noise(width, height, cell=8, seed=20260101):
+    """Rectangles of seeded random colours that fill the screen, for `VirtualDesktop.paint`."""
+    chance = random.Random(seed)
+    return [(x, y, cell, cell, tuple(chance.randrange(256) for _ in range(3)))
+            for y in range(0, height, cell) for x in range(0, width, cell)]
+
+
+def hex_text(color):
+    return "#%02X%02X%02X" % color
+
+
+class DropshadeCase(unittest.TestCase):
+    """One desktop for a class of tests; `self.program` is running and has its icon in the tray."""
+
+    WIDTH, HEIGHT, DEPTH = 1280, 800, 24
+    TRAY = True
+    VARIABLES = {}
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = VirtualDesktop(cls.WIDTH, cls.HEIGHT, cls.DEPTH, tray=cls.TRAY)
+        cls.desktop.__enter__()
+        cls.addClassCleanup(cls.desktop.__exit__)
+        cls.prepare_desktop()
+
+    @classmethod
+    def prepare_desktop(cls):
+        cls.desktop.paint(noise(cls.WIDTH, cls.HEIGHT))
+
+    def setUp(self):
+        self.desktop.move(self.WIDTH // 2, self.HEIGHT // 2)
+        self.program = self.start_program()
+        self.addCleanup(self.end_program)
+        if self.TRAY:
+            self.icon = self.desktop.tray_icon()
+
+    def start_program(self, **variables):
+        return self.desktop.start([PROGRAM], **{**self.VARIABLES, **variables})
+
+    def end_program(self):
+        self.program.end()
+        wait_until(lambda: not self.desktop.has_tray_icon(), "the icon to go")
+
+    # The flow of a pick
+
+    def click_icon(self, button=1, *modifiers):
+        x, y, width, height = self.icon
+        self.desktop.move(x + width // 2, y + height // 2)
+        for name in modifiers:
+            self.desktop.key_down(name)
+        self.desktop.click(button=button)
+        for name in modifiers:
+            self.desktop.key_up(name)
+
+    def loupe_is_up(self):
+        return (0, 0, self.WIDTH, self.HEIGHT) in self.desktop.windows()
+
+    def wait_for_loupe(self):
+        wait_until(self.loupe_is_up, "the loupe")
+        # It has the keyboard a moment later, when the panel's own grab has ended.
+        wait_until(self.desktop.keyboard_is_grabbed, "the loupe's keyboard")
+
+    def wait_for_no_loupe(self):
+        wait_until(lambda: not self.loupe_is_up(), "the loupe to go")
+        wait_until(lambda: not self.desktop.keyboard_is_grabbed(), "the keyboard to be free")
+
+    def pick(self, x, y):
+        """A whole pick by the right click; the text that another process then reads."""
+        self.desktop.own_clipboard("before")
+        self.click_icon(3)
+        self.wait_for_loupe()
+        self.desktop.click(x, y)
+        return self.copied_text()
+
+    def copied_text(self, before="before"):
+        wait_until(lambda: self.desktop.clipboard_text() != before, "the copied text")
+        self.wait_for_no_loupe()
+        return self.desktop.clipboard_text()
+
+    # What the program remembers
+
+    def _settings(self):
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        return sqlite3.connect(next(folder.rglob("defaults.sqlite")))
+
+    def setting(self, key):
+        with self._settings() as settings:
+            row = settings.execute("SELECT value FROM defaults WHERE key = ?", (key,)).fetchone()
+        return row and row[0]
+
+    def copies_counted(self):
+        return self.setting("totalChecksCount") or 0
+
+    def save_screenshot(self, name):
+        SCREENSHOTS.mkdir(parents=True, exist_ok=True)
+        self.desktop.screenshot(str(SCREENSHOTS / name))
