@@ -3,9 +3,10 @@
 # Sourced by ./run and ./test: what each of them needs, and a way to have it.
 # shellcheck shell=sh
 
-build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libqt6svg6-dev libsqlite3-dev
-    libxcb1-dev libxcb-keysyms1-dev"
-desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth python3 python3-xlib fonts-dejavu-core"
+build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev libqt6svg6-dev libsqlite3-dev
+    libxcb1-dev libxcb-keysyms1-dev libsndfile1-dev"
+desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth pulseaudio pulseaudio-utils python3
+    python3-xlib fonts-dejavu-core"
 test_packages="libgtest-dev libgmock-dev clang-format-14 git"
 
 say() { printf '%s\n' "$*"; }

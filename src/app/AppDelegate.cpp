@@ -30,6 +30,7 @@ QString statusIconResource(MenuBarIconStyle style) {
 AppDelegate::AppDelegate(Platform platform)
     : m_platform(std::move(platform)),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
+      m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
       m_statusMenu(*m_platform.statusItem) {}
 
 AppDelegate::~AppDelegate() = default;
@@ -97,6 +98,7 @@ void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> f
     const std::string text =
         formatted(color, format.value_or(colorFormat(defaults)), formatOptions(defaults));
     m_platform.pasteboard->setText(QString::fromStdString(text));
+    m_soundService.play();
 }
 
 void AppDelegate::countCopy() {

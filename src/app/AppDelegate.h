@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/ColorPickerService.h"
+#include "app/SoundService.h"
 #include "app/StatusMenu.h"
 #include "color/ColorFormat.h"
 #include "platform/Platform.h"
@@ -34,8 +35,8 @@ public:
     /// True from the start of a sample until its flow has ended.
     bool isPicking() const { return m_isPicking; }
 
-    /// Counts the copy and puts the colour's text on the clipboard, in `format` or else in the
-    /// format of the settings.
+    /// Counts the copy, puts the colour's text on the clipboard, in `format` or else in the format
+    /// of the settings, and plays the sound of the settings.
     void copyColor(const SRGBColor& color, std::optional<ColorFormat> format = std::nullopt);
 
 Q_SIGNALS:
@@ -51,6 +52,7 @@ private:
 
     Platform m_platform;
     ColorPickerService m_colorPickerService;
+    SoundService m_soundService;
     StatusMenu m_statusMenu;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
     bool m_isPicking = false;

@@ -7,6 +7,7 @@
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
+#include "platform/SoundPlayer.h"
 #include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
 
@@ -23,6 +24,7 @@ struct Platform {
     std::unique_ptr<DesktopAppearance> appearance;
     std::unique_ptr<ScreenSampler> screenSampler;
     std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<SoundPlayer> soundPlayer;
 };
 
 } // namespace dropshade

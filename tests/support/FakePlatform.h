@@ -7,6 +7,7 @@
 #include "support/FakeApplicationInstance.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
+#include "support/FakeSoundPlayer.h"
 #include "support/FakeStatusItem.h"
 #include "support/ManualScheduler.h"
 #include "support/MemoryDefaults.h"
@@ -23,6 +24,7 @@ struct FakePlatform {
     FakeAppearance& appearance = put<FakeAppearance>(platform.appearance);
     FakeScreenSampler& screenSampler = put<FakeScreenSampler>(platform.screenSampler);
     FakeStatusItem& statusItem = put<FakeStatusItem>(platform.statusItem);
+    FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
 
 private:
     template <typename Fake, typename Seam>
