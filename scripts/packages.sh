@@ -7,7 +7,7 @@ build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev
     libxcb1-dev libxcb-keysyms1-dev libsndfile1-dev"
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth pulseaudio pulseaudio-utils python3
     python3-xlib fonts-dejavu-core"
-test_packages="libgtest-dev libgmock-dev clang-format-14 git"
+test_packages="libgtest-dev libgmock-dev clang-format-14 git openssl"
 
 say() { printf '%s\n' "$*"; }
 

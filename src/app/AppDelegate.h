@@ -5,6 +5,8 @@
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
+#include "app/UpdateDialogs.h"
+#include "app/UpdateService.h"
 #include "color/ColorFormat.h"
 #include "platform/Platform.h"
 
@@ -39,6 +41,9 @@ public:
     /// of the settings, and plays the sound of the settings.
     void copyColor(const SRGBColor& color, std::optional<ColorFormat> format = std::nullopt);
 
+    /// The updater; it and what it needs come into being at the first call.
+    UpdateService& updateService();
+
 Q_SIGNALS:
     /// The user asked for the end of the program.
     void quitRequested();
@@ -54,6 +59,8 @@ private:
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
     StatusMenu m_statusMenu;
+    std::unique_ptr<UpdateDialogs> m_updateDialogs;
+    std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
     bool m_isPicking = false;
 };

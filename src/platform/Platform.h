@@ -4,6 +4,7 @@
 
 #include "platform/ApplicationInstance.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/FeedFetcher.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
@@ -25,6 +26,7 @@ struct Platform {
     std::unique_ptr<ScreenSampler> screenSampler;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<SoundPlayer> soundPlayer;
+    std::unique_ptr<FeedFetcher> feedFetcher;
 };
 
 } // namespace dropshade

@@ -5,6 +5,7 @@
 #include "platform/Platform.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeApplicationInstance.h"
+#include "support/FakeFeedFetcher.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
@@ -25,6 +26,7 @@ struct FakePlatform {
     FakeScreenSampler& screenSampler = put<FakeScreenSampler>(platform.screenSampler);
     FakeStatusItem& statusItem = put<FakeStatusItem>(platform.statusItem);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
+    FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
 
 private:
     template <typename Fake, typename Seam>

@@ -4,6 +4,7 @@
 
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
+#include "platform/linux/LazyFeedFetcher.h"
 #include "platform/linux/NullScreenSampler.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QtPasteboard.h"
@@ -44,6 +45,8 @@ Platform makePlatform() {
     platform.statusItem = std::make_unique<TrayStatusItem>();
     platform.soundPlayer = std::make_unique<SoundProcess>(
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
+    platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
+        [] { return companionFile(QStringLiteral("dropshade-network.so")); });
     return platform;
 }
 
