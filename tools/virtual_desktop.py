@@ -7,6 +7,7 @@ Needs Debian's python3-xlib, xvfb, openbox, trayer, dbus-daemon and xclip; run i
 """
 
 import os
+import random
 import shutil
 import signal
 import struct
@@ -319,12 +320,31 @@ class VirtualDesktop:
 
     def paint(self, rectangles):
         """Shows a picture under all windows: (x, y, width, height, (red, green, blue)), in order."""
+        def draw(picture, context):
+            for x, y, across, down, (red, green, blue) in rectangles:
+                context.change(foreground=red << 16 | green << 8 | blue)
+                picture.fill_rectangle(context, x, y, across, down)
+        self._show_picture(draw)
+
+    def paint_noise(self, seed):
+        """Shows a picture under all windows whose every pixel has a random colour of its own."""
+        width, height, depth = self._size
+        bytes_a_pixel = 4 if depth > 16 else 2
+        data = random.Random(seed).randbytes(width * height * bytes_a_pixel)
+        band = 32
+        size = width * bytes_a_pixel
+
+        def draw(picture, context):
+            for y in range(0, height, band):
+                rows = data[y * size:(y + band) * size]
+                picture.put_image(context, 0, y, width, len(rows) // size, X.ZPixmap, depth, 0, rows)
+        self._show_picture(draw)
+
+    def _show_picture(self, draw):
         width, height, depth = self._size
         picture = self.root.create_pixmap(width, height, depth)
         context = picture.create_gc()
-        for x, y, across, down, (red, green, blue) in rectangles:
-            context.change(foreground=red << 16 | green << 8 | blue)
-            picture.fill_rectangle(context, x, y, across, down)
+        draw(picture, context)
         self.root.change_attributes(background_pixmap=picture)
         self.root.clear_area(0, 0, 0, 0)
         context.free()

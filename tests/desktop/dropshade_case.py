@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: MIT
 """What the tests on the virtual desktop share: the program, started anew for each test."""
 
+import contextlib
 import os
 import pathlib
-import random
 import sqlite3
 import sys
 import unittest
@@ -16,13 +16,6 @@ from virtual_desktop import VirtualDesktop, wait_until  # noqa: E402
 
 PROGRAM = os.environ.get("DROPSHADE", str(PROJECT / "build/release/src/dropshade"))
 SCREENSHOTS = pathlib.Path(os.environ.get("SCREENSHOTS", "screenshots"))
-
-
-def noise(width, height, cell=8, seed=20260101):
-    """Rectangles of seeded random colours that fill the screen, for `VirtualDesktop.paint`."""
-    chance = random.Random(seed)
-    return [(x, y, cell, cell, tuple(chance.randrange(256) for _ in range(3)))
-            for y in range(0, height, cell) for x in range(0, width, cell)]
 
 
 def hex_text(color):
@@ -45,7 +38,7 @@ class DropshadeCase(unittest.TestCase):
 
     @classmethod
     def prepare_desktop(cls):
-        cls.desktop.paint(noise(cls.WIDTH, cls.HEIGHT))
+        cls.desktop.paint_noise(seed=20260101)
 
     def setUp(self):
         self.desktop.move(self.WIDTH // 2, self.HEIGHT // 2)
@@ -72,16 +65,17 @@ class DropshadeCase(unittest.TestCase):
         for name in modifiers:
             self.desktop.key_up(name)
 
-    def loupe_is_up(self):
-        return (0, 0, self.WIDTH, self.HEIGHT) in self.desktop.windows()
+    def loupe_windows(self):
+        """Two while the loupe is up: the picture, and above it the one that takes the input."""
+        return self.desktop.windows().count((0, 0, self.WIDTH, self.HEIGHT))
 
     def wait_for_loupe(self):
-        wait_until(self.loupe_is_up, "the loupe")
+        wait_until(lambda: self.loupe_windows() == 2, "the loupe")
         # It has the keyboard a moment later, when the panel's own grab has ended.
         wait_until(self.desktop.keyboard_is_grabbed, "the loupe's keyboard")
 
     def wait_for_no_loupe(self):
-        wait_until(lambda: not self.loupe_is_up(), "the loupe to go")
+        wait_until(lambda: self.loupe_windows() == 0, "the loupe to go")
         wait_until(lambda: not self.desktop.keyboard_is_grabbed(), "the keyboard to be free")
 
     def pick(self, x, y):
@@ -93,18 +87,25 @@ class DropshadeCase(unittest.TestCase):
         return self.copied_text()
 
     def copied_text(self, before="before"):
-        wait_until(lambda: self.desktop.clipboard_text() != before, "the copied text")
+        try:
+            wait_until(lambda: self.desktop.clipboard_text() != before, "the copied text")
+        except TimeoutError:
+            self.fail(f"no text copied; pointer {self.desktop.pointer()}, loupe windows "
+                      f"{self.loupe_windows()}, copies counted {self.copies_counted()}, "
+                      f"clipboard owner {self.desktop.clipboard_owner()}, "
+                      f"program ended {self.program.returncode}\n{self.desktop.output()}")
         self.wait_for_no_loupe()
         return self.desktop.clipboard_text()
 
     # What the program remembers
 
-    def _settings(self):
-        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
-        return sqlite3.connect(next(folder.rglob("defaults.sqlite")))
-
     def setting(self, key):
-        with self._settings() as settings:
+        """What the store holds under the key; None where it is unset or nothing was ever written."""
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        file = next(folder.rglob("defaults.sqlite"), None)
+        if not file:
+            return None
+        with contextlib.closing(sqlite3.connect(file)) as settings:
             row = settings.execute("SELECT value FROM defaults WHERE key = ?", (key,)).fetchone()
         return row and row[0]
 

@@ -53,10 +53,10 @@ class Sampling(DropshadeCase):
         self.click_icon(3)
         self.desktop.click(button=3)
         self.wait_for_loupe()
-        loupes = [window for window in self.desktop.windows()
-                  if window == (0, 0, self.WIDTH, self.HEIGHT)]
-        self.assertEqual(len(loupes), 2, "the picture and the window that takes the input")
-        self.desktop.click(200, 200)
+        self.assertEqual(self.loupe_windows(), 2)
+        self.desktop.move(200, 200)
+        wait_until(lambda: self.desktop.shows_loupe(200, 200), "the loupe at the pixel")
+        self.desktop.click()
         self.copied_text()
         self.assertEqual(self.copies_counted(), counted + 1)
 
@@ -116,7 +116,7 @@ class Sampling(DropshadeCase):
             self.start_pick()
             self.desktop.move(400, 400)
             self.desktop.press()
-            wait_until(lambda: not self.loupe_is_up(), "the loupe to go")
+            wait_until(lambda: self.loupe_windows() == 1, "the picture to go")
             self.desktop.release()
             self.wait_for_no_loupe()
             self.assertEqual(window.clicks_seen(), [])
@@ -134,6 +134,13 @@ class Sampling(DropshadeCase):
         self.desktop.click(self.WIDTH - 60, 50)
         self.assertEqual(self.copied_text(), hex_text(color))
 
+    def test_the_text_gets_to_the_clipboard_though_another_program_copied_during_the_sample(self):
+        color = self.desktop.pixel(600, 500)
+        self.start_pick()
+        self.desktop.own_clipboard("copied meanwhile")
+        self.desktop.click(600, 500)
+        self.assertEqual(self.copied_text("copied meanwhile"), hex_text(color))
+
     def test_the_text_is_still_there_for_every_later_reader(self):
         text = self.pick(10, 700)
         for _ in range(3):
@@ -141,7 +148,7 @@ class Sampling(DropshadeCase):
 
 
 class SamplingAtScale(DropshadeCase):
-    """Every pixel of a noise picture is its neighbour's enemy: one off is another colour."""
+    """In a picture of noise the neighbour of a pixel has another colour, so one off is wrong."""
 
     SCALE = "1.25"
     POINTS = [(3, 5), (641, 401), (642, 401), (1279, 799), (100, 777), (1111, 33), (555, 554)]
@@ -156,12 +163,6 @@ class SamplingAtScale(DropshadeCase):
             with self.subTest(scale=self.SCALE, point=point):
                 color = self.desktop.pixel(*point)
                 self.assertEqual(self.pick(*point), hex_text(color))
-
-    @classmethod
-    def prepare_desktop(cls):
-        from dropshade_case import noise
-        cls.desktop.paint(noise(cls.WIDTH, cls.HEIGHT, cell=1)
-                          if cls.SCALE == "1.25" else noise(cls.WIDTH, cls.HEIGHT, cell=2))
 
 
 class SamplingAtScale15(SamplingAtScale):

@@ -84,7 +84,8 @@ X11Loupe::X11Loupe(std::unique_ptr<XcbConnection> connection,
     xcb_change_window_attributes(m_connection->get(), m_connection->screen().root,
                                  XCB_CW_EVENT_MASK, &rootEvents);
     connect(&m_notifier, &QSocketNotifier::activated, this, &X11Loupe::readEvents);
-    readEvents();
+    // Not at once: a click may already be waiting, and nobody listens to `finished` yet.
+    readEventsSoon();
 }
 
 void X11Loupe::readEvents() {
@@ -101,6 +102,10 @@ void X11Loupe::readEvents() {
     m_needsDrawing = false;
     draw();
     // Drawing waits for replies, and events that came before them are already off the socket.
+    readEventsSoon();
+}
+
+void X11Loupe::readEventsSoon() {
     QMetaObject::invokeMethod(this, &X11Loupe::readEvents, Qt::QueuedConnection);
 }
 

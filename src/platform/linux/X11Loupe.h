@@ -37,6 +37,7 @@ private:
     X11Loupe(std::unique_ptr<XcbConnection> connection, std::unique_ptr<X11FrozenScreen> screen,
              const Theme& theme, ScreenSampler::Describe describe);
     void readEvents();
+    void readEventsSoon();
     void handle(const xcb_generic_event_t& event);
     void handleButton(const xcb_button_press_event_t& event);
     void handleKey(const xcb_key_press_event_t& event);
