@@ -6,6 +6,8 @@
 #include "widgets/Theme.h"
 #include "widgets/TintedIcon.h"
 
+#include <QCoreApplication>
+
 namespace dropshade {
 
 namespace {
@@ -30,6 +32,7 @@ QString statusIconResource(MenuBarIconStyle style) {
 AppDelegate::AppDelegate(Platform platform)
     : m_platform(std::move(platform)),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
+      m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
       m_statusMenu(*m_platform.statusItem) {}
 
 AppDelegate::~AppDelegate() = default;
@@ -48,6 +51,8 @@ void AppDelegate::applicationDidFinishLaunching() {
             &StatusMenu::show);
     connect(&m_statusMenu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
     connect(&m_statusMenu, &StatusMenu::quitClicked, this, &AppDelegate::quitRequested);
+    if (UpdateService::automaticallyChecksForUpdates(*m_platform.defaults))
+        updateService();
 }
 
 void AppDelegate::applicationWillTerminate() {
@@ -97,6 +102,18 @@ void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> f
     const std::string text =
         formatted(color, format.value_or(colorFormat(defaults)), formatOptions(defaults));
     m_platform.pasteboard->setText(QString::fromStdString(text));
+    m_soundService.play();
+}
+
+UpdateService& AppDelegate::updateService() {
+    if (!m_updateService) {
+        m_updateDialogs = std::make_unique<UpdateDialogs>();
+        m_updateService = std::make_unique<UpdateService>(
+            UpdateService::Surroundings{*m_platform.defaults, *m_platform.scheduler,
+                                        *m_platform.feedFetcher, *m_updateDialogs},
+            VersionNumber::parse(QCoreApplication::applicationVersion()).value_or(VersionNumber()));
+    }
+    return *m_updateService;
 }
 
 void AppDelegate::countCopy() {

@@ -3,7 +3,10 @@
 #pragma once
 
 #include "app/ColorPickerService.h"
+#include "app/SoundService.h"
 #include "app/StatusMenu.h"
+#include "app/UpdateDialogs.h"
+#include "app/UpdateService.h"
 #include "color/ColorFormat.h"
 #include "platform/Platform.h"
 
@@ -34,9 +37,12 @@ public:
     /// True from the start of a sample until its flow has ended.
     bool isPicking() const { return m_isPicking; }
 
-    /// Counts the copy and puts the colour's text on the clipboard, in `format` or else in the
-    /// format of the settings.
+    /// Counts the copy, puts the colour's text on the clipboard, in `format` or else in the format
+    /// of the settings, and plays the sound of the settings.
     void copyColor(const SRGBColor& color, std::optional<ColorFormat> format = std::nullopt);
+
+    /// The updater; it and what it needs come into being at the first call.
+    UpdateService& updateService();
 
 Q_SIGNALS:
     /// The user asked for the end of the program.
@@ -51,7 +57,10 @@ private:
 
     Platform m_platform;
     ColorPickerService m_colorPickerService;
+    SoundService m_soundService;
     StatusMenu m_statusMenu;
+    std::unique_ptr<UpdateDialogs> m_updateDialogs;
+    std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
     bool m_isPicking = false;
 };

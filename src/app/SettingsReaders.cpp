@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/SettingsReaders.h"
 
+#include "app/SoundNames.h"
+
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -57,6 +60,13 @@ MenuBarIconStyle menuBarIconStyle(const UserDefaults& defaults) {
     if (stored == QLatin1String("palette"))
         return MenuBarIconStyle::Palette;
     return MenuBarIconStyle::Picker;
+}
+
+QString copySound(const UserDefaults& defaults) {
+    const QString stored = defaults.read<QString>(keys::copySound).value_or(QString());
+    const bool isLegal = stored == noSound || std::find(soundNames.begin(), soundNames.end(),
+                                                        stored) != soundNames.end();
+    return isLegal ? stored : QString(defaultSound);
 }
 
 } // namespace dropshade

@@ -31,12 +31,16 @@ enum class MenuBarIconStyle { Picker, Swatch, Palette };
 /// "menuBarIconStyle"; `Picker` for anything unknown.
 [[nodiscard]] MenuBarIconStyle menuBarIconStyle(const UserDefaults& defaults);
 
+/// "copySound": "none" or a name of `soundNames`; "drop" for anything else.
+[[nodiscard]] QString copySound(const UserDefaults& defaults);
+
 namespace keys {
 
 inline const QString colorFormat = QStringLiteral("colorFormat");
 inline const QString useHashPrefix = QStringLiteral("useHashPrefix");
 inline const QString useLowercase = QStringLiteral("useLowercase");
 inline const QString decimalPlaces = QStringLiteral("decimalPlaces");
+inline const QString copySound = QStringLiteral("copySound");
 inline const QString menuBarIconStyle = QStringLiteral("menuBarIconStyle");
 inline const QString totalChecksCount = QStringLiteral("totalChecksCount");
 

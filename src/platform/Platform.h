@@ -4,9 +4,11 @@
 
 #include "platform/ApplicationInstance.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/FeedFetcher.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
+#include "platform/SoundPlayer.h"
 #include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
 
@@ -23,6 +25,8 @@ struct Platform {
     std::unique_ptr<DesktopAppearance> appearance;
     std::unique_ptr<ScreenSampler> screenSampler;
     std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<SoundPlayer> soundPlayer;
+    std::unique_ptr<FeedFetcher> feedFetcher;
 };
 
 } // namespace dropshade

@@ -142,6 +142,18 @@ TEST_F(AppDelegateTest, CopiesAColourInAFormatOfTheCallersChoice) {
     EXPECT_FALSE(delegate.isPicking());
 }
 
+TEST_F(AppDelegateTest, PlaysTheSoundOfTheSettingsOnceTheTextIsOnTheClipboard) {
+    fakes.statusItem.click(Qt::RightButton);
+    fakes.screenSampler.cancel();
+    EXPECT_TRUE(fakes.soundPlayer.played().isEmpty());
+    fakes.statusItem.click(Qt::RightButton);
+    fakes.screenSampler.pick(pink);
+    EXPECT_EQ(fakes.soundPlayer.played(), QStringList{QStringLiteral(":/sounds/drop.aiff")});
+    fakes.defaults.setValue(keys::copySound, QStringLiteral("none"));
+    delegate.copyColor(pink);
+    EXPECT_EQ(fakes.soundPlayer.played().size(), 1);
+}
+
 TEST_F(AppDelegateTest, ReplacesTheImageAtOnceWhenTheIconStyleChanges) {
     const QImage picker = lastIcon();
     fakes.defaults.setValue(keys::menuBarIconStyle, QStringLiteral("swatch"));

@@ -5,8 +5,10 @@
 #include "platform/Platform.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeApplicationInstance.h"
+#include "support/FakeFeedFetcher.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
+#include "support/FakeSoundPlayer.h"
 #include "support/FakeStatusItem.h"
 #include "support/ManualScheduler.h"
 #include "support/MemoryDefaults.h"
@@ -23,6 +25,8 @@ struct FakePlatform {
     FakeAppearance& appearance = put<FakeAppearance>(platform.appearance);
     FakeScreenSampler& screenSampler = put<FakeScreenSampler>(platform.screenSampler);
     FakeStatusItem& statusItem = put<FakeStatusItem>(platform.statusItem);
+    FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
+    FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
 
 private:
     template <typename Fake, typename Seam>

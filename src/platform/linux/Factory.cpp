@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Factory.h"
 
+#include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
+#include "platform/linux/LazyFeedFetcher.h"
 #include "platform/linux/NullScreenSampler.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QtPasteboard.h"
 #include "platform/linux/QtScheduler.h"
+#include "platform/linux/SoundProcess.h"
 #include "platform/linux/SqliteDefaults.h"
 #include "platform/linux/TrayStatusItem.h"
 #include "platform/linux/X11Pasteboard.h"
@@ -47,6 +50,10 @@ Platform makePlatform() {
     platform.appearance = std::make_unique<PortalAppearance>();
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
+    platform.soundPlayer = std::make_unique<SoundProcess>(
+        [] { return companionFile(QStringLiteral("dropshade-sound")); });
+    platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
+        [] { return companionFile(QStringLiteral("dropshade-network.so")); });
     return platform;
 }
 
