@@ -5,7 +5,8 @@
 
     pillow_quantize.py FILE WIDTH HEIGHT COLOURS RUNS
 
-A line for each: its name, the milliseconds of processor time of each run, and its palette as red,green,blue triples.
+A line for each: its name, the milliseconds of processor time of each run, and its palette as
+red,green,blue triples.
 """
 import sys
 import time

@@ -63,15 +63,21 @@ bool isIndexed(QImage::Format format) {
            format == QImage::Format_Indexed8;
 }
 
+/// Without a colour table: Qt scales and paints in the belief that every index is in it, and only
+/// this conversion looks.
+QImage unindexed(QImage image) {
+    if (isIndexed(image.format()))
+        image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                : QImage::Format_RGB32);
+    return image;
+}
+
 QImage scaledTo(QSize size, QImage image) {
     if (image.size() == size)
         return image;
     // In place where nobody else has the image; the scaler would make a whole copy in this format.
-    // It also believes every index to be in the colour table; the conversion looks.
     if (image.hasAlphaChannel())
         image.convertTo(QImage::Format_ARGB32_Premultiplied);
-    else if (isIndexed(image.format()))
-        image.convertTo(QImage::Format_RGB32);
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
@@ -142,8 +148,8 @@ std::optional<LoadedImage> loadByReader(const QByteArray& data, ImageFileFormat 
     QImage image;
     if (!reader.read(&image) || image.isNull())
         return std::nullopt;
-    return LoadedImage{inSRGB(scaledTo(isTurned ? target.transposed() : target, std::move(image))),
-                       isTurned ? size.transposed() : size};
+    image = scaledTo(isTurned ? target.transposed() : target, unindexed(std::move(image)));
+    return LoadedImage{inSRGB(std::move(image)), isTurned ? size.transposed() : size};
 }
 
 std::optional<LoadedImage> loadHeif(const QByteArray& data) {
@@ -156,7 +162,7 @@ std::optional<LoadedImage> loadHeif(const QByteArray& data) {
         return std::nullopt;
     const QSize size = image->size();
     const QSize target = reduced(size, ImageLoader::longestSide);
-    return LoadedImage{inSRGB(packed(scaledTo(target, std::move(*image)))), size};
+    return LoadedImage{inSRGB(scaledTo(target, packed(std::move(*image)))), size};
 }
 
 } // namespace
@@ -186,7 +192,7 @@ std::optional<PixelBuffer> pixelBufferOf(const LoadedImage& image) {
     if (image.image.isNull() || image.originalSize.isEmpty())
         return std::nullopt;
     const QSize size = reduced(image.originalSize, PixelBuffer::longestSide);
-    const QImage surface = inSRGB(packed(scaledTo(size, image.image)))
+    const QImage surface = inSRGB(scaledTo(size, unindexed(packed(image.image))))
                                .convertToFormat(QImage::Format_RGBA8888_Premultiplied);
     if (surface.isNull())
         return std::nullopt;

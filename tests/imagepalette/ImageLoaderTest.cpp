@@ -62,6 +62,16 @@ TEST(ImageLoader, ReadsGif) {
     EXPECT_EQ(loaded->image.pixel(1, 2), qRgb(200, 100, 0));
 }
 
+TEST(ImageLoader, GivesImagesWithoutAColourTable) {
+    QImage image(10, 10, QImage::Format_Indexed8);
+    image.setColorTable({qRgb(1, 2, 3)});
+    image.fill(0);
+    const auto loaded = ImageLoader::loadData(encoded(image, "png"));
+    ASSERT_TRUE(loaded);
+    EXPECT_EQ(loaded->image.format(), QImage::Format_RGB32);
+    EXPECT_EQ(loaded->image.pixel(5, 5), qRgb(1, 2, 3));
+}
+
 TEST(ImageLoader, ReadsRunLengthBmp) {
     const auto loaded = ImageLoader::loadData(runLengthBmp(9, 5));
     ASSERT_TRUE(loaded);
@@ -103,14 +113,18 @@ TEST(ImageLoader, KeepsTransparency) {
 }
 
 TEST(ImageLoader, KeepsTransparencyOfHeic) {
-    QImage image(64, 64, QImage::Format_ARGB32);
-    image.fill(qRgba(255, 0, 0, 0));
-    const QByteArray file = heic(image);
-    if (file.isEmpty())
-        GTEST_SKIP() << "no HEVC encoder";
-    const auto loaded = ImageLoader::loadData(file);
-    ASSERT_TRUE(loaded);
-    EXPECT_LT(qAlpha(loaded->image.pixel(30, 30)), 16);
+    for (const QSize size : {QSize(64, 64), QSize(41, 31), QSize(2003, 41)}) {
+        QImage image(size, QImage::Format_ARGB32);
+        image.fill(qRgba(255, 0, 0, 0));
+        const QByteArray file = heic(image);
+        if (file.isEmpty())
+            GTEST_SKIP() << "no HEVC encoder";
+        const auto loaded = ImageLoader::loadData(file);
+        ASSERT_TRUE(loaded);
+        EXPECT_EQ(loaded->originalSize, size);
+        EXPECT_LT(qAlpha(loaded->image.pixel(30, 30)), 16);
+        EXPECT_TRUE(pixelBufferOf(*loaded)->pixels().empty());
+    }
 }
 
 TEST(ImageLoader, ObeysEveryExifOrientation) {
