@@ -4,7 +4,7 @@
 # shellcheck shell=sh
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libqt6svg6-dev libsqlite3-dev
-    libxcb1-dev libxcb-keysyms1-dev"
+    libplist-dev libxcb1-dev libxcb-keysyms1-dev"
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth python3 python3-xlib fonts-dejavu-core"
 test_packages="libgtest-dev libgmock-dev clang-format-14 git"
 

@@ -5,6 +5,8 @@
 #include "json/JsonReader.h"
 #include "json/JsonWriter.h"
 
+#include <QList>
+
 #include <optional>
 #include <type_traits>
 
@@ -34,6 +36,28 @@ template <typename Read>
     } catch (const JsonError&) {
         return std::nullopt;
     }
+}
+
+/// The array of what `write(writer, item)` writes for each item, or nothing.
+template <typename Item, typename Write>
+[[nodiscard]] std::optional<QByteArray> encodedJsonList(const QList<Item>& items, Write write) {
+    return encodedJson([&](JsonWriter& writer) {
+        writer.beginArray();
+        for (const Item& item : items)
+            write(writer, item);
+        writer.endArray();
+    });
+}
+
+/// What `read(reader)` makes of each item of an array. One bad item makes it nothing as a whole.
+template <typename Read>
+[[nodiscard]] auto decodedJsonList(const QByteArray& json, Read read)
+    -> std::optional<QList<std::invoke_result_t<Read, JsonReader&>>> {
+    return decodedJson(json, [&read](JsonReader& reader) {
+        QList<std::invoke_result_t<Read, JsonReader&>> items;
+        reader.array([&] { items.append(read(reader)); });
+        return items;
+    });
 }
 
 /// The value of a key that an object must have.

@@ -3,12 +3,11 @@
 #include "palettes/PaletteSwatch.h"
 
 #include "color/ColorConversions.h"
-#include "color/ColorParser.h"
 #include "contrast/ContrastMetrics.h"
+#include "palettes/ColorText.h"
 
 #include <algorithm>
 #include <memory>
-#include <string_view>
 #include <utility>
 
 namespace dropshade {
@@ -17,12 +16,6 @@ namespace {
 /// From this saturation on a tint has the swatch's hue. The margin is for colours such as #fae6e6,
 /// whose saturation is 0.08 and whose binary quotient is a hair below.
 constexpr double leastHuedSaturation = 0.08 - 1e-12;
-
-SRGBColor parsedOrBlack(const QString& value) {
-    const QByteArray text = value.toUtf8();
-    return parseColor(std::string_view(text.constData(), std::size_t(text.size())))
-        .value_or(SRGBColor());
-}
 
 SRGBColor pinTintOver(const SRGBColor& color, bool prefersLightText) {
     const HSBComponents own = hsbComponents(color);
@@ -43,7 +36,7 @@ PaletteSwatch::PaletteSwatch(const QUuid& id, const QString& value, std::optiona
     data->id = id;
     data->value = value;
     data->label = std::move(label);
-    data->color = parsedOrBlack(value);
+    data->color = parsedColorOrBlack(value);
     data->prefersLightText = prefersLightInk(data->color);
     data->pinTint = pinTintOver(data->color, data->prefersLightText);
     d = QExplicitlySharedDataPointer<const Data>(data.release());
