@@ -105,20 +105,20 @@ void AppSettings::pinSwatch(const PaletteSwatch& swatch, const Palette& palette,
     setPinnedColors(pins);
 }
 
-void AppSettings::unpinSwatch(const QUuid& swatchId) {
+void AppSettings::unpinSwatch(QUuid swatchId) {
     if (m_pinnedSwatchIds.contains(swatchId))
         removePins([&swatchId](const PinRecord& pin) { return pin.swatchId == swatchId; });
 }
 
-void AppSettings::unpinPalette(const QUuid& paletteId) {
+void AppSettings::unpinPalette(QUuid paletteId) {
     removePins([&paletteId](const PinRecord& pin) { return pin.paletteId == paletteId; });
 }
 
-void AppSettings::unpinScale(const QUuid& scaleId) {
+void AppSettings::unpinScale(QUuid scaleId) {
     removePins([&scaleId](const PinRecord& pin) { return pin.scaleId == scaleId; });
 }
 
-void AppSettings::updatePinnedSwatch(const QUuid& swatchId, const QString& value,
+void AppSettings::updatePinnedSwatch(QUuid swatchId, const QString& value,
                                      const std::optional<QString>& label) {
     if (!m_pinnedSwatchIds.contains(swatchId))
         return;
@@ -130,22 +130,21 @@ void AppSettings::updatePinnedSwatch(const QUuid& swatchId, const QString& value
     });
 }
 
-void AppSettings::renamePinnedPalette(const QUuid& paletteId, const QString& name) {
+void AppSettings::renamePinnedPalette(QUuid paletteId, const QString& name) {
     updatePins([&](PinRecord& pin) {
         if (pin.paletteId == paletteId)
             pin.paletteName = name;
     });
 }
 
-void AppSettings::renamePinnedScale(const QUuid& scaleId, const QString& name) {
+void AppSettings::renamePinnedScale(QUuid scaleId, const QString& name) {
     updatePins([&](PinRecord& pin) {
         if (pin.scaleId == scaleId)
             pin.scaleName = name;
     });
 }
 
-void AppSettings::movePinnedSwatch(const QUuid& swatchId, const QUuid& scaleId,
-                                   const QString& scaleName) {
+void AppSettings::movePinnedSwatch(QUuid swatchId, QUuid scaleId, const QString& scaleName) {
     if (!m_pinnedSwatchIds.contains(swatchId))
         return;
     updatePins([&](PinRecord& pin) {

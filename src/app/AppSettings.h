@@ -60,16 +60,16 @@ public:
 
     /// Adds a pin for the swatch, unless it has one.
     void pinSwatch(const PaletteSwatch& swatch, const Palette& palette, const PaletteScale& scale);
-    void unpinSwatch(const QUuid& swatchId);
-    void unpinPalette(const QUuid& paletteId);
-    void unpinScale(const QUuid& scaleId);
+    void unpinSwatch(QUuid swatchId);
+    void unpinPalette(QUuid paletteId);
+    void unpinScale(QUuid scaleId);
     /// The swatch has another value or label.
-    void updatePinnedSwatch(const QUuid& swatchId, const QString& value,
+    void updatePinnedSwatch(QUuid swatchId, const QString& value,
                             const std::optional<QString>& label);
-    void renamePinnedPalette(const QUuid& paletteId, const QString& name);
-    void renamePinnedScale(const QUuid& scaleId, const QString& name);
+    void renamePinnedPalette(QUuid paletteId, const QString& name);
+    void renamePinnedScale(QUuid scaleId, const QString& name);
     /// The swatch is in another scale.
-    void movePinnedSwatch(const QUuid& swatchId, const QUuid& scaleId, const QString& scaleName);
+    void movePinnedSwatch(QUuid swatchId, QUuid scaleId, const QString& scaleName);
     /// Brings the pins in line with these palettes; see `validatedPins`.
     void validatePins(const QList<Palette>& palettes);
 
