@@ -4,9 +4,9 @@
 # shellcheck shell=sh
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libqt6svg6-dev libsqlite3-dev
-    libplist-dev libxcb1-dev libxcb-keysyms1-dev"
+    libxcb1-dev libxcb-keysyms1-dev libheif-dev libplist-dev"
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth python3 python3-xlib fonts-dejavu-core"
-test_packages="libgtest-dev libgmock-dev clang-format-14 git"
+test_packages="python3-dbus python3-gi libgtest-dev libgmock-dev qt6-image-formats-plugins clang-format-14 git"
 
 say() { printf '%s\n' "$*"; }
 

@@ -7,6 +7,7 @@ Needs Debian's python3-xlib, xvfb, openbox, trayer, dbus-daemon and xclip; run i
 """
 
 import os
+import random
 import shutil
 import signal
 import struct
@@ -15,7 +16,7 @@ import tempfile
 import time
 import zlib
 
-from Xlib import X, XK, display
+from Xlib import X, XK, display, error
 from Xlib.ext import xtest
 
 WAIT_SECONDS = 10.0
@@ -123,12 +124,10 @@ class VirtualDesktop:
 
     def start(self, command, **variables):
         """Starts a child that ends with the desktop; `variables` are added to its environment."""
-        child = Process(command, {**self.environment, **variables}, self._log())
+        with open(os.path.join(self._folder, "output.txt"), "ab") as log:
+            child = Process(command, {**self.environment, **variables}, log)
         self._children.append(child)
         return child
-
-    def _log(self):
-        return open(os.path.join(self._folder, "output.txt"), "ab")
 
     def output(self):
         """All that the children have printed, for the message of a failed test."""
@@ -188,23 +187,31 @@ class VirtualDesktop:
         def find():
             window = self._embedded_window(self.root)
             return window and self._rectangle(window)
-        return wait_until(find, "an icon in the tray", seconds)
+
+        def find_settled():
+            # The tray moves its icons while it makes room for them.
+            before = find()
+            time.sleep(0.03)
+            return before if before == find() else None
+        return wait_until(find_settled, "an icon in the tray", seconds)
 
     def has_tray_icon(self):
         return self._embedded_window(self.root) is not None
 
-    def _embedded_window(self, window):
-        from Xlib import error
+    def _embedded_window(self, window, depth=0):
+        """A mapped window that takes part in XEmbed and is neither a menu nor managed: an icon."""
         info = self.display.intern_atom("_XEMBED_INFO")
+        state = self.display.intern_atom("WM_STATE")
         try:
-            if window.get_full_property(info, X.AnyPropertyType):
-                state = window.get_attributes().map_state
-                return window if state == X.IsViewable else None
+            if depth > 1 and window.get_full_property(info, X.AnyPropertyType):
+                if window.get_full_property(state, X.AnyPropertyType):
+                    return None
+                return window if window.get_attributes().map_state == X.IsViewable else None
             children = window.query_tree().children
         except error.XError:
             return None
         for child in children:
-            found = self._embedded_window(child)
+            found = self._embedded_window(child, depth + 1)
             if found:
                 return found
         return None
@@ -218,9 +225,12 @@ class VirtualDesktop:
         """Rectangles of the mapped children of the root window, lowest first."""
         shown = []
         for child in self.root.query_tree().children:
-            if child.get_attributes().map_state == X.IsViewable:
-                size = child.get_geometry()
-                shown.append((size.x, size.y, size.width, size.height))
+            try:
+                if child.get_attributes().map_state == X.IsViewable:
+                    size = child.get_geometry()
+                    shown.append((size.x, size.y, size.width, size.height))
+            except error.XError:
+                continue  # It has gone meanwhile.
         return shown
 
     def pixel(self, x, y):
@@ -249,16 +259,92 @@ class VirtualDesktop:
                 rows.append(b"\0" + bytes(rgb))
         write_png(path, width, height, b"".join(rows))
 
+    def raw_pixel(self, x, y):
+        """The pixel's value as the server keeps it."""
+        data = self.root.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFFFF).data
+        return int.from_bytes(data[:self._size[2] // 8 if self._size[2] <= 16 else 4], "little")
+
+    def grab(self, x, y, width, height):
+        """The bytes of a part of the screen, for comparing."""
+        return self.root.get_image(x, y, width, height, X.ZPixmap, 0xFFFFFFFF).data
+
+    def keyboard_is_grabbed(self):
+        """True while some program keeps the keyboard to itself."""
+        status = self.root.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime)
+        if status == X.GrabSuccess:
+            self.display.ungrab_keyboard(X.CurrentTime)
+            self.display.sync()
+        return status != X.GrabSuccess
+
+    def open_menu(self):
+        """The rectangle of an open menu or other unmanaged window of a Qt program, or None."""
+        for child in self.root.query_tree().children:
+            try:
+                shown = child.get_attributes().map_state == X.IsViewable
+                if shown and child.get_wm_protocols() and child.get_wm_class():
+                    return self._rectangle(child)
+            except error.XError:
+                continue
+        return None
+
+    def wait_for_menu(self):
+        """An open menu that has the keyboard. To ask the server who has it would be to take it away
+        from a program that is about to, so this gives the program a moment."""
+        wait_until(self.open_menu, "a menu")
+        time.sleep(0.1)
+
+    def pause_after_closing_click(self):
+        """As long as a program may take a click for the one that closed its menu."""
+        time.sleep(0.3)
+
+    def bus_has_name(self, name):
+        result = subprocess.run(
+            ["dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus",
+             "/org/freedesktop/DBus", "org.freedesktop.DBus.NameHasOwner", f"string:{name}"],
+            env=self.environment, capture_output=True, text=True, check=False)
+        return "true" in result.stdout
+
+    def listening_window(self, x, y, width, height):
+        """A window of another program that notes the mouse buttons it sees."""
+        return ListeningWindow(self.environment["DISPLAY"], x, y, width, height)
+
+    def split_into_monitors(self, *monitors):
+        """Monitors as (name, x, y, width, height), all on the one big screen."""
+        for index, (name, x, y, width, height) in enumerate(monitors):
+            geometry = f"{width}/211x{height}/158+{x}+{y}"
+            output = "screen" if index == 0 else "none"
+            subprocess.run(["xrandr", "--setmonitor", name, geometry, output], check=True,
+                           env=self.environment)
+
     # Painting
 
     def paint(self, rectangles):
         """Shows a picture under all windows: (x, y, width, height, (red, green, blue)), in order."""
+        def draw(picture, context):
+            for x, y, across, down, (red, green, blue) in rectangles:
+                context.change(foreground=red << 16 | green << 8 | blue)
+                picture.fill_rectangle(context, x, y, across, down)
+        self._show_picture(draw)
+
+    def paint_noise(self, seed):
+        """Shows a picture under all windows whose every pixel has a random colour of its own."""
+        width, height, depth = self._size
+        bytes_a_pixel = 4 if depth > 16 else 2
+        data = random.Random(seed).randbytes(width * height * bytes_a_pixel)
+        band = 32
+        size = width * bytes_a_pixel
+
+        def draw(picture, context):
+            for y in range(0, height, band):
+                rows = data[y * size:(y + band) * size]
+                picture.put_image(context, 0, y, width, len(rows) // size, X.ZPixmap, depth, 0, rows)
+        self._show_picture(draw)
+
+    def _show_picture(self, draw):
         width, height, depth = self._size
         picture = self.root.create_pixmap(width, height, depth)
         context = picture.create_gc()
-        for x, y, across, down, (red, green, blue) in rectangles:
-            context.change(foreground=red << 16 | green << 8 | blue)
-            picture.fill_rectangle(context, x, y, across, down)
+        draw(picture, context)
         self.root.change_attributes(background_pixmap=picture)
         self.root.clear_area(0, 0, 0, 0)
         context.free()
@@ -330,6 +416,35 @@ class VirtualDesktop:
         result = subprocess.run(["xclip", "-o", "-selection", "clipboard", "-t", target], check=False,
                                 env=self.environment, capture_output=True, timeout=WAIT_SECONDS)
         return result.stdout
+
+
+class ListeningWindow:
+    """`with` it: an override-redirect window on a connection of its own."""
+
+    def __init__(self, display_name, x, y, width, height):
+        self._display = display.Display(display_name)
+        screen = self._display.screen()
+        self._window = screen.root.create_window(
+            x, y, width, height, 0, screen.root_depth, override_redirect=True,
+            background_pixel=0x808080, event_mask=X.ButtonPressMask | X.ButtonReleaseMask)
+        self._clicks = []
+
+    def __enter__(self):
+        self._window.map()
+        self._display.sync()
+        return self
+
+    def __exit__(self, *_):
+        self._display.close()
+
+    def clicks_seen(self):
+        """The events so far: (type, button)."""
+        self._display.sync()
+        while self._display.pending_events():
+            event = self._display.next_event()
+            if event.type in (X.ButtonPress, X.ButtonRelease):
+                self._clicks.append((event.type, event.detail))
+        return self._clicks
 
 
 def write_png(path, width, height, rows):

@@ -125,7 +125,7 @@ void appendFixedExactly(std::string& text, double value, int decimalPlaces) {
 }
 
 // The fractions of a colour in whole numbers, which is several times as fast as std::to_chars. The
-// product below errs by less than 1e-10, so unless it is about to be a tie the nearest whole number
+// product below errs by less than 1e-8, so unless it is about to be a tie the nearest whole number
 // is that of the exact value.
 void appendFixed(std::string& text, double value, int decimalPlaces) {
     constexpr std::array<std::uint32_t, 5> scales = {1, 10, 100, 1000, 10000};
@@ -143,12 +143,22 @@ void appendFixed(std::string& text, double value, int decimalPlaces) {
         appendFixedExactly(text, value, decimalPlaces);
         return;
     }
-    const std::uint32_t units = remainder > 0.5 ? floor + 1 : floor;
-    appendInteger(text, units / scales[places]);
+    std::uint32_t units = remainder > 0.5 ? floor + 1 : floor;
+    std::array<char, std::numeric_limits<std::uint32_t>::digits10 + 2> buffer;
+    char* const end = buffer.data() + buffer.size();
+    char* start = end;
+    const auto writeLastDigit = [&start, &units] {
+        *--start = static_cast<char>('0' + units % 10);
+        units /= 10;
+    };
+    for (std::size_t place = 0; place < places; ++place)
+        writeLastDigit();
     if (places > 0)
-        text += '.';
-    for (std::size_t place = places; place > 0; --place)
-        text += static_cast<char>('0' + units / scales[place - 1] % 10);
+        *--start = '.';
+    do
+        writeLastDigit();
+    while (units > 0);
+    text.append(start, end);
 }
 
 class PatternWriter {

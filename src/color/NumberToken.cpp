@@ -104,6 +104,9 @@ std::optional<double> numberFromToken(std::string_view token) {
         constexpr std::string_view hexadecimalStart = ".0123456789abcdefABCDEF";
         if (token.empty() || hexadecimalStart.find(token.front()) == std::string_view::npos)
             return std::nullopt;
+        // GCC 12's library takes an exponent with two signs, as in "0x1p+-1".
+        if (token.find("+-") != std::string_view::npos)
+            return std::nullopt;
         magnitude = unsignedNumber(token, hexadecimal);
     } else {
         magnitude = shortDecimal(token);

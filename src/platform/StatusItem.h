@@ -20,7 +20,7 @@ class StatusItem : public QObject {
     Q_OBJECT
 
 public:
-    /// A null icon leaves the item without an image.
+    /// A null icon takes the item off the status area until another comes.
     virtual void setIcon(const QIcon& icon) = 0;
 
     /// Where the item is, in the coordinates of `QScreen`; empty where the desktop does not tell.

@@ -220,7 +220,7 @@ int DefaultsDatabase::adopt(SqliteDatabase& database, Deadline deadline) {
     if (result == SQLITE_OK && owner != applicationId) {
         result = SQLITE_NOTADB;
     }
-    m_isWritable = version <= schemaVersion;
+    m_isWritable = version <= schemaVersion && database.isWritable();
     if (result != SQLITE_OK || !m_isWritable) {
         return result;
     }
@@ -230,7 +230,7 @@ int DefaultsDatabase::adopt(SqliteDatabase& database, Deadline deadline) {
 
 /// Makes the table in an empty database.
 int DefaultsDatabase::fill(SqliteDatabase& database, Deadline deadline) const {
-    // Two processes must not change the journal mode at once: SQLite refuses one without waiting.
+    // Two processes that change the journal mode at once would refuse one another.
     const FolderTurn turn(m_file.folder(), deadline);
     qint64 version = 0;
     int result = database.read("PRAGMA user_version", version);
@@ -242,7 +242,10 @@ int DefaultsDatabase::fill(SqliteDatabase& database, Deadline deadline) const {
     if (result != SQLITE_OK || objects != 0) {
         return result == SQLITE_OK ? SQLITE_NOTADB : result;
     }
-    result = database.execute("PRAGMA journal_mode = WAL");
+    // SQLite does not wait for a reader here, not even for one that only asks for the version.
+    do {
+        result = database.execute("PRAGMA journal_mode = WAL");
+    } while (isBusy(result) && pauseBefore(deadline));
     if (result == SQLITE_OK) {
         result = database.run(begin);
     }

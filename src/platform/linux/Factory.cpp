@@ -9,6 +9,7 @@
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SqliteDefaults.h"
 #include "platform/linux/TrayStatusItem.h"
+#include "platform/linux/X11Pasteboard.h"
 #include "platform/linux/X11ScreenSampler.h"
 
 #include <QGuiApplication>
@@ -29,6 +30,12 @@ std::unique_ptr<ScreenSampler> makeSampler(const DesktopAppearance& appearance) 
     });
 }
 
+std::unique_ptr<Pasteboard> makePasteboard() {
+    if (isX11())
+        return std::make_unique<X11Pasteboard>();
+    return std::make_unique<QtPasteboard>();
+}
+
 } // namespace
 
 Platform makePlatform() {
@@ -36,7 +43,7 @@ Platform makePlatform() {
     platform.instance = std::make_unique<DBusApplicationInstance>();
     platform.defaults = std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath());
     platform.scheduler = std::make_unique<QtScheduler>();
-    platform.pasteboard = std::make_unique<QtPasteboard>();
+    platform.pasteboard = makePasteboard();
     platform.appearance = std::make_unique<PortalAppearance>();
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();

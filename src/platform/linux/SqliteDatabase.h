@@ -29,6 +29,9 @@ public:
 
     [[nodiscard]] int status() const { return m_status; }
 
+    /// False when the file could be opened for reading alone.
+    [[nodiscard]] bool isWritable() const { return sqlite3_db_readonly(m_handle, "main") == 0; }
+
     /// Until when later calls wait for the locks of other connections; not at all unless set.
     void setDeadline(Deadline deadline) { m_deadline = deadline; }
 

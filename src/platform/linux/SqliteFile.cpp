@@ -94,8 +94,7 @@ bool SqliteFile::isBlank() const {
 }
 
 bool SqliteFile::hasLog() const {
-    const QByteArray path = resolvedPath();
-    return sizeOf(path + "-wal") > 0 || sizeOf(path + "-journal") > 0;
+    return sizeOf(resolvedPath() + "-wal") > 0;
 }
 
 QByteArray SqliteFile::resolvedPath() const {
@@ -117,12 +116,8 @@ bool SqliteFile::create() const {
     }
     // Made here and not by SQLite, which would let other users read it. Never open this file by
     // hand once it exists: closing it would drop the locks that SQLite has on it.
-    const int file = ::open(m_path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600);
-    if (file < 0) {
-        return errno == EEXIST;
-    }
-    ::close(file);
-    return true;
+    const int file = ::open(m_path.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600);
+    return file >= 0 && ::close(file) == 0;
 }
 
 bool SqliteFile::setAside(const std::optional<FileIdentity>& damaged, Deadline deadline) const {

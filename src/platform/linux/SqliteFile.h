@@ -51,7 +51,7 @@ public:
     /// True when there is no file at the path, or an empty one.
     [[nodiscard]] bool isBlank() const;
 
-    /// True when a log or journal with content lies at the path. Beside a blank file it is all
+    /// True when a write-ahead log with content lies at the path. Beside a blank file it is all
     /// that is left of a database, and SQLite would delete it.
     [[nodiscard]] bool hasLog() const;
 

@@ -20,19 +20,6 @@ namespace {
 const QString watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
-xcb_connection_t* guiConnection() {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
-
-xcb_atom_t atom(xcb_connection_t* connection, const QByteArray& name) {
-    const auto cookie =
-        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.constData());
-    const XcbReply<xcb_intern_atom_reply_t> reply(
-        xcb_intern_atom_reply(connection, cookie, nullptr));
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
-}
-
 } // namespace
 
 TrayHostWatch::TrayHostWatch() = default;
@@ -43,8 +30,8 @@ TrayHostWatch::~TrayHostWatch() {
 
 void TrayHostWatch::start() {
     if (xcb_connection_t* connection = guiConnection()) {
-        m_managerAtom = atom(connection, "MANAGER");
-        m_traySelection = atom(connection, "_NET_SYSTEM_TRAY_S0");
+        m_managerAtom = internAtom(connection, "MANAGER");
+        m_traySelection = internAtom(connection, "_NET_SYSTEM_TRAY_S0");
         qGuiApp->installNativeEventFilter(this);
     }
     if (hasEmbeddingHost()) {

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/TrayStatusItem.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QWidget>
 
 namespace dropshade {
 
@@ -16,11 +18,20 @@ std::optional<Qt::MouseButton> buttonOf(QSystemTrayIcon::ActivationReason reason
         return Qt::RightButton;
     case QSystemTrayIcon::MiddleClick:
         return Qt::MiddleButton;
-    case QSystemTrayIcon::DoubleClick: // Its first click came as a trigger.
+    case QSystemTrayIcon::DoubleClick: // Seen by the event filter.
     case QSystemTrayIcon::Unknown:
         break;
     }
     return std::nullopt;
+}
+
+/// The widget that Qt embeds in the tray, where the tray takes widgets.
+QWidget* embeddedWidget() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->inherits("QSystemTrayIconSys"))
+            return widget;
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -32,10 +43,12 @@ TrayStatusItem::TrayStatusItem() {
 void TrayStatusItem::setIcon(const QIcon& icon) {
     const bool isFirst = m_icon.isNull();
     m_icon = icon;
-    if (m_trayIcon)
+    if (m_trayIcon) {
         m_trayIcon->setIcon(icon);
-    else if (isFirst)
+        m_trayIcon->setVisible(!icon.isNull());
+    } else if (isFirst) {
         m_hostWatch.start();
+    }
 }
 
 QRect TrayStatusItem::geometry() const {
@@ -59,6 +72,18 @@ void TrayStatusItem::createTrayIcon() {
                     Q_EMIT clicked({*button, modifiers()});
             });
     m_trayIcon->show();
+    if (QWidget* widget = embeddedWidget())
+        widget->installEventFilter(this);
+}
+
+bool TrayStatusItem::eventFilter(QObject* watched, QEvent* event) {
+    // Of two quick clicks Qt reports the second as a double click, and with the right button not at
+    // all; here each click counts for itself.
+    if (event->type() != QEvent::MouseButtonDblClick)
+        return StatusItem::eventFilter(watched, event);
+    const auto* mouse = static_cast<QMouseEvent*>(event);
+    Q_EMIT clicked({mouse->button(), mouse->modifiers()});
+    return true;
 }
 
 } // namespace dropshade

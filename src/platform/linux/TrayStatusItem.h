@@ -22,6 +22,7 @@ public:
     [[nodiscard]] QRect geometry() const override;
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     [[nodiscard]] Qt::KeyboardModifiers modifiers() const;
     void createTrayIcon();
 

@@ -17,6 +17,8 @@ constexpr int shiftedStep = 10;
 /// A button that is never reported up must not keep the pointer from other programs.
 constexpr std::chrono::milliseconds longestPress{1000};
 constexpr std::chrono::milliseconds notPressed{0};
+/// Between two attempts to take what another program holds.
+constexpr std::chrono::milliseconds grabDelay{20};
 
 enum Button : xcb_button_t { Left = 1, WheelUp = 4, WheelDown = 5 };
 
@@ -84,7 +86,17 @@ X11Loupe::X11Loupe(std::unique_ptr<XcbConnection> connection,
     xcb_change_window_attributes(m_connection->get(), m_connection->screen().root,
                                  XCB_CW_EVENT_MASK, &rootEvents);
     connect(&m_notifier, &QSocketNotifier::activated, this, &X11Loupe::readEvents);
-    readEvents();
+    m_nextGrab.setSingleShot(true);
+    m_nextGrab.setInterval(grabDelay);
+    connect(&m_nextGrab, &QTimer::timeout, this, &X11Loupe::takeInput);
+    takeInput();
+}
+
+void X11Loupe::takeInput() {
+    if (!m_input.grab() && !m_isFinished)
+        m_nextGrab.start();
+    // Not at once: a click may already be waiting, and at first nobody listens to `finished` yet.
+    readEventsSoon();
 }
 
 void X11Loupe::readEvents() {
@@ -101,6 +113,10 @@ void X11Loupe::readEvents() {
     m_needsDrawing = false;
     draw();
     // Drawing waits for replies, and events that came before them are already off the socket.
+    readEventsSoon();
+}
+
+void X11Loupe::readEventsSoon() {
     QMetaObject::invokeMethod(this, &X11Loupe::readEvents, Qt::QueuedConnection);
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/XcbConnection.h"
 
+#include <QGuiApplication>
+
 namespace dropshade {
 
 namespace {
@@ -16,6 +18,19 @@ xcb_screen_t* screenNumbered(xcb_connection_t* connection, int number) {
 }
 
 } // namespace
+
+xcb_connection_t* guiConnection() {
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
+}
+
+xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const XcbReply<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
 
 std::unique_ptr<XcbConnection> XcbConnection::open() {
     int number = 0;

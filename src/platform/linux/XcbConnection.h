@@ -6,12 +6,19 @@
 
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace dropshade {
 
 /// What libxcb hands out and expects to be freed.
 template <typename T>
 using XcbReply = std::unique_ptr<T, decltype([](T* reply) { std::free(reply); })>;
+
+/// The connection that Qt runs on; nothing when that is not X11.
+[[nodiscard]] xcb_connection_t* guiConnection();
+
+/// `XCB_ATOM_NONE` when the server is gone.
+[[nodiscard]] xcb_atom_t internAtom(xcb_connection_t* connection, std::string_view name);
 
 /// A connection of its own to the X server that the program runs on.
 class XcbConnection {

@@ -1,0 +1,124 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "imagepalette/HeifDecoder.h"
+
+#include "imagepalette/HeifPointer.h"
+
+#include <QColorSpace>
+#include <QPointF>
+
+namespace dropshade {
+
+namespace {
+
+using Handle = HeifPointer<heif_image_handle, heif_image_handle_release>;
+using Options = HeifPointer<heif_decoding_options, heif_decoding_options_free>;
+
+bool succeeded(const heif_error& error) {
+    return error.code == heif_error_Ok;
+}
+
+HeifContext contextOf(const QByteArray& data) {
+    HeifContext context(heif_context_alloc());
+    if (!context ||
+        !succeeded(heif_context_read_from_memory_without_copy(
+            context.get(), data.constData(), static_cast<std::size_t>(data.size()), nullptr)))
+        return nullptr;
+    return context;
+}
+
+Handle primaryImageOf(heif_context* context) {
+    heif_image_handle* handle = nullptr;
+    if (!succeeded(heif_context_get_primary_image_handle(context, &handle)))
+        return nullptr;
+    return Handle(handle);
+}
+
+QColorSpace iccColorSpace(const heif_image_handle* handle) {
+    const std::size_t size = heif_image_handle_get_raw_color_profile_size(handle);
+    QByteArray profile(static_cast<qsizetype>(size), Qt::Uninitialized);
+    if (size == 0 || !succeeded(heif_image_handle_get_raw_color_profile(handle, profile.data())))
+        return {};
+    return QColorSpace::fromIccProfile(profile);
+}
+
+/// Code points of ITU-T H.273. Television's curves are taken for that of sRGB, as browsers take
+/// them.
+QColorSpace codedColorSpace(const heif_image_handle* handle) {
+    heif_color_profile_nclx* raw = nullptr;
+    if (!succeeded(heif_image_handle_get_nclx_color_profile(handle, &raw)) || !raw)
+        return QColorSpace::SRgb;
+    const HeifColorProfile profile(raw);
+    auto curve = QColorSpace::TransferFunction::SRgb;
+    float gamma = 0.0F;
+    if (profile->transfer_characteristics == heif_transfer_characteristic_linear) {
+        curve = QColorSpace::TransferFunction::Linear;
+    } else if (profile->transfer_characteristics ==
+               heif_transfer_characteristic_ITU_R_BT_470_6_System_M) {
+        curve = QColorSpace::TransferFunction::Gamma;
+        gamma = 2.2F;
+    }
+    switch (profile->color_primaries) {
+    case heif_color_primaries_SMPTE_EG_432_1:
+        return {QColorSpace::Primaries::DciP3D65, curve, gamma};
+    case heif_color_primaries_ITU_R_BT_2020_2_and_2100_0:
+        return {QPointF(0.3127, 0.3290),
+                QPointF(0.708, 0.292),
+                QPointF(0.170, 0.797),
+                QPointF(0.131, 0.046),
+                curve,
+                gamma};
+    default:
+        return {QColorSpace::Primaries::SRgb, curve, gamma};
+    }
+}
+
+QColorSpace colorSpaceOf(const heif_image_handle* handle) {
+    const QColorSpace icc = iccColorSpace(handle);
+    return icc.isValid() ? icc : codedColorSpace(handle);
+}
+
+/// The decoded pixels, which the image keeps alive.
+QImage decoded(const heif_image_handle* handle) {
+    const Options options(heif_decoding_options_alloc());
+    options->convert_hdr_to_8bit = 1;
+    options->strict_decoding = 1;
+    heif_image* image = nullptr;
+    if (!succeeded(heif_decode_image(handle, &image, heif_colorspace_RGB,
+                                     heif_chroma_interleaved_RGBA, options.get())))
+        return {};
+    int stride = 0;
+    const std::uint8_t* plane =
+        heif_image_get_plane_readonly(image, heif_channel_interleaved, &stride);
+    const auto format = !heif_image_handle_has_alpha_channel(handle) ? QImage::Format_RGBX8888
+                        : heif_image_handle_is_premultiplied_alpha(handle)
+                            ? QImage::Format_RGBA8888_Premultiplied
+                            : QImage::Format_RGBA8888;
+    const auto release = [](void* owned) { heif_image_release(static_cast<heif_image*>(owned)); };
+    QImage result;
+    if (plane)
+        result = QImage(plane, heif_image_get_width(image, heif_channel_interleaved),
+                        heif_image_get_height(image, heif_channel_interleaved), stride, format,
+                        release, image);
+    if (result.isNull())
+        release(image);
+    return result;
+}
+
+} // namespace
+
+std::optional<QImage> decodeHeif(const QByteArray& data) {
+    const HeifContext context = contextOf(data);
+    const Handle handle = context ? primaryImageOf(context.get()) : nullptr;
+    if (!handle)
+        return std::nullopt;
+    const QSize size(heif_image_handle_get_width(handle.get()),
+                     heif_image_handle_get_height(handle.get()));
+    QImage image = decoded(handle.get());
+    if (image.isNull() || image.size() != size)
+        return std::nullopt;
+    image.setColorSpace(colorSpaceOf(handle.get()));
+    return image;
+}
+
+} // namespace dropshade

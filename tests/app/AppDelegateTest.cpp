@@ -1,0 +1,168 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+#include "app/SettingsReaders.h"
+#include "support/FakePlatform.h"
+
+#include <QApplication>
+#include <QMenu>
+
+#include <gtest/gtest.h>
+
+namespace dropshade {
+namespace {
+
+const SRGBColor pink(1.0, 0.0, 128.0 / 255.0, 0.5);
+
+class AppDelegateTest : public testing::Test {
+protected:
+    AppDelegateTest() { delegate.applicationDidFinishLaunching(); }
+
+    [[nodiscard]] qint64 copyCount() const {
+        return fakes.defaults.read<qint64>(keys::totalChecksCount).value_or(0);
+    }
+
+    [[nodiscard]] QImage lastIcon() const {
+        return fakes.statusItem.icons().back().pixmap(QSize(36, 36)).toImage();
+    }
+
+    static QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+
+    FakePlatform fakes;
+    AppDelegate delegate{std::move(fakes.platform)};
+};
+
+TEST_F(AppDelegateTest, RightClickStartsASample) {
+    fakes.statusItem.click(Qt::RightButton);
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+    EXPECT_TRUE(delegate.isPicking());
+}
+
+TEST_F(AppDelegateTest, ControlClickWithEitherButtonStartsASample) {
+    fakes.statusItem.click(Qt::LeftButton, Qt::ControlModifier);
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+    fakes.screenSampler.cancel();
+    fakes.statusItem.click(Qt::RightButton, Qt::ControlModifier);
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, MiddleClickStartsASampleWherePanelsKeepTheRightOne) {
+    fakes.statusItem.click(Qt::MiddleButton);
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, LeftClickOpensTheMenuAndSamplesNothing) {
+    fakes.statusItem.click();
+    EXPECT_FALSE(fakes.screenSampler.isUp());
+    ASSERT_NE(openMenu(), nullptr);
+    EXPECT_EQ(openMenu()->actions().first()->text(),
+              QStringLiteral("Control-click for quick pick"));
+    EXPECT_FALSE(openMenu()->actions().first()->isEnabled());
+}
+
+TEST_F(AppDelegateTest, OtherModifiersHaveNoMeaningForAClick) {
+    fakes.statusItem.click(Qt::LeftButton, Qt::AltModifier | Qt::MetaModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(fakes.screenSampler.isUp());
+    EXPECT_NE(openMenu(), nullptr);
+}
+
+TEST_F(AppDelegateTest, StartingTheProgramOnceMoreOpensTheMenu) {
+    fakes.instance.activate();
+    EXPECT_NE(openMenu(), nullptr);
+}
+
+TEST_F(AppDelegateTest, QuickPickSamplesOnceTheMenuHasFadedFromTheScreen) {
+    fakes.statusItem.click();
+    openMenu()->actions().at(2)->trigger();
+    EXPECT_FALSE(fakes.screenSampler.isUp());
+    fakes.scheduler.advance(std::chrono::milliseconds(100));
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, QuitAsksForTheEndOfTheProgram) {
+    int requests = 0;
+    QObject::connect(&delegate, &AppDelegate::quitRequested, [&] { ++requests; });
+    fakes.statusItem.click();
+    openMenu()->actions().last()->trigger();
+    EXPECT_EQ(requests, 1);
+}
+
+TEST_F(AppDelegateTest, PutsThePickedColourOnTheClipboardAsHexByDefault) {
+    delegate.startPick();
+    fakes.screenSampler.pick(pink);
+    EXPECT_EQ(fakes.pasteboard.copies(), QStringList{QStringLiteral("#FF0080")});
+    EXPECT_FALSE(delegate.isPicking());
+}
+
+TEST_F(AppDelegateTest, ReadsTheFormatAndTheOptionsFreshAtEachPick) {
+    delegate.startPick();
+    fakes.defaults.setFromAnotherProcess(keys::colorFormat, QStringLiteral("hexa"));
+    fakes.defaults.setFromAnotherProcess(keys::useHashPrefix, false);
+    fakes.defaults.setFromAnotherProcess(keys::useLowercase, true);
+    fakes.screenSampler.pick(pink);
+    EXPECT_EQ(fakes.pasteboard.text(), QStringLiteral("ff008080"));
+}
+
+TEST_F(AppDelegateTest, ShowsTheTextOfTheChosenFormatInTheLoupe) {
+    fakes.defaults.setValue(keys::colorFormat, QStringLiteral("cssRGB"));
+    delegate.startPick();
+    EXPECT_EQ(fakes.screenSampler.described(pink), QStringLiteral("rgb(255 0 128)"));
+}
+
+TEST_F(AppDelegateTest, CountsEachCopyFromZeroWhenUnset) {
+    delegate.startPick();
+    fakes.screenSampler.pick(pink);
+    delegate.startPick();
+    fakes.screenSampler.pick(pink);
+    EXPECT_EQ(copyCount(), 2);
+}
+
+TEST_F(AppDelegateTest, ACancelledSampleLeavesClipboardAndCounterAloneAndTheNextClickWorks) {
+    fakes.pasteboard.setTextFromAnotherProgram(QStringLiteral("theirs"));
+    delegate.startPick();
+    fakes.screenSampler.cancel();
+    EXPECT_EQ(fakes.pasteboard.text(), QStringLiteral("theirs"));
+    EXPECT_EQ(copyCount(), 0);
+    EXPECT_FALSE(delegate.isPicking());
+
+    fakes.statusItem.click(Qt::RightButton);
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, TwoQuickTriggersStartOneSampler) {
+    fakes.statusItem.click(Qt::RightButton);
+    fakes.statusItem.click(Qt::RightButton);
+    EXPECT_EQ(fakes.screenSampler.sampleCount(), 1);
+}
+
+TEST_F(AppDelegateTest, CopiesAColourInAFormatOfTheCallersChoice) {
+    delegate.copyColor(pink, ColorFormat::cssRGBA);
+    EXPECT_EQ(fakes.pasteboard.text(), QStringLiteral("rgb(255 0 128 / 0.5)"));
+    EXPECT_EQ(copyCount(), 1);
+    EXPECT_FALSE(delegate.isPicking());
+}
+
+TEST_F(AppDelegateTest, ReplacesTheImageAtOnceWhenTheIconStyleChanges) {
+    const QImage picker = lastIcon();
+    fakes.defaults.setValue(keys::menuBarIconStyle, QStringLiteral("swatch"));
+    const QImage swatch = lastIcon();
+    fakes.defaults.setValue(keys::menuBarIconStyle, QStringLiteral("palette"));
+    const QImage palette = lastIcon();
+    EXPECT_NE(picker, swatch);
+    EXPECT_NE(swatch, palette);
+    EXPECT_NE(palette, picker);
+}
+
+TEST_F(AppDelegateTest, DrawsTheStatusItemInTheInkOfTheDesktopsScheme) {
+    const QImage light = lastIcon();
+    fakes.appearance.setDark(true);
+    EXPECT_NE(lastIcon(), light);
+}
+
+TEST_F(AppDelegateTest, TakesTheImageAwayBeforeTheProgramWaitsForAnybody) {
+    delegate.applicationWillTerminate();
+    EXPECT_TRUE(fakes.statusItem.icons().back().isNull());
+}
+
+} // namespace
+} // namespace dropshade

@@ -1,0 +1,117 @@
+# Copyright (c) 2026 The Dropshade authors
+# SPDX-License-Identifier: MIT
+"""What the tests on the virtual desktop share: the program, started anew for each test."""
+
+import contextlib
+import os
+import pathlib
+import sqlite3
+import sys
+import unittest
+
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(PROJECT / "tools"))
+
+from virtual_desktop import VirtualDesktop, wait_until  # noqa: E402
+
+PROGRAM = os.environ.get("DROPSHADE", str(PROJECT / "build/release/src/dropshade"))
+SCREENSHOTS = pathlib.Path(os.environ.get("SCREENSHOTS", "screenshots"))
+
+
+def hex_text(color):
+    return "#%02X%02X%02X" % color
+
+
+class DropshadeCase(unittest.TestCase):
+    """One desktop for a class of tests; `self.program` is running and has its icon in the tray."""
+
+    WIDTH, HEIGHT, DEPTH = 1280, 800, 24
+    TRAY = True
+    VARIABLES = {}
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = VirtualDesktop(cls.WIDTH, cls.HEIGHT, cls.DEPTH, tray=cls.TRAY)
+        cls.desktop.__enter__()
+        cls.addClassCleanup(cls.desktop.__exit__)
+        cls.prepare_desktop()
+
+    @classmethod
+    def prepare_desktop(cls):
+        cls.desktop.paint_noise(seed=20260101)
+
+    def setUp(self):
+        self.desktop.move(self.WIDTH // 2, self.HEIGHT // 2)
+        self.program = self.start_program()
+        self.addCleanup(self.end_program)
+        if self.TRAY:
+            self.icon = self.desktop.tray_icon()
+
+    def start_program(self, **variables):
+        return self.desktop.start([PROGRAM], **{**self.VARIABLES, **variables})
+
+    def end_program(self):
+        self.program.end()
+        wait_until(lambda: not self.desktop.has_tray_icon(), "the icon to go")
+
+    # The flow of a pick
+
+    def click_icon(self, button=1, *modifiers):
+        x, y, width, height = self.icon
+        self.desktop.move(x + width // 2, y + height // 2)
+        for name in modifiers:
+            self.desktop.key_down(name)
+        self.desktop.click(button=button)
+        for name in modifiers:
+            self.desktop.key_up(name)
+
+    def loupe_windows(self):
+        """Two while the loupe is up: the picture, and above it the one that takes the input."""
+        return self.desktop.windows().count((0, 0, self.WIDTH, self.HEIGHT))
+
+    def wait_for_loupe(self):
+        wait_until(lambda: self.loupe_windows() == 2, "the loupe")
+        # It has the keyboard a moment later, when the panel's own grab has ended.
+        wait_until(self.desktop.keyboard_is_grabbed, "the loupe's keyboard")
+
+    def wait_for_no_loupe(self):
+        wait_until(lambda: self.loupe_windows() == 0, "the loupe to go")
+        wait_until(lambda: not self.desktop.keyboard_is_grabbed(), "the keyboard to be free")
+
+    def pick(self, x, y):
+        """A whole pick by the right click; the text that another process then reads."""
+        self.desktop.own_clipboard("before")
+        self.click_icon(3)
+        self.wait_for_loupe()
+        self.desktop.click(x, y)
+        return self.copied_text()
+
+    def copied_text(self, before="before"):
+        try:
+            wait_until(lambda: self.desktop.clipboard_text() != before, "the copied text")
+        except TimeoutError:
+            self.fail(f"no text copied; pointer {self.desktop.pointer()}, loupe windows "
+                      f"{self.loupe_windows()}, copies counted {self.copies_counted()}, "
+                      f"clipboard owner {self.desktop.clipboard_owner()}, "
+                      f"program ended {self.program.returncode}\n{self.desktop.output()}")
+        self.wait_for_no_loupe()
+        return self.desktop.clipboard_text()
+
+    # What the program remembers
+
+    def setting(self, key):
+        """What the store holds under the key; None where it is unset or nothing was ever written."""
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        file = next(folder.rglob("defaults.sqlite"), None)
+        if not file:
+            return None
+        with contextlib.closing(sqlite3.connect(file)) as settings:
+            row = settings.execute("SELECT value FROM defaults WHERE key = ?", (key,)).fetchone()
+        return row and row[0]
+
+    def copies_counted(self):
+        return self.setting("totalChecksCount") or 0
+
+    def save_screenshot(self, name):
+        SCREENSHOTS.mkdir(parents=True, exist_ok=True)
+        self.desktop.screenshot(str(SCREENSHOTS / name))

@@ -1,0 +1,37 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/Platform.h"
+#include "support/FakeAppearance.h"
+#include "support/FakeApplicationInstance.h"
+#include "support/FakePasteboard.h"
+#include "support/FakeScreenSampler.h"
+#include "support/FakeStatusItem.h"
+#include "support/ManualScheduler.h"
+#include "support/MemoryDefaults.h"
+
+namespace dropshade {
+
+/// A desktop made of fakes. The references stay good for as long as whoever takes the platform.
+struct FakePlatform {
+    Platform platform;
+    FakeApplicationInstance& instance = put<FakeApplicationInstance>(platform.instance);
+    MemoryDefaults& defaults = put<MemoryDefaults>(platform.defaults);
+    ManualScheduler& scheduler = put<ManualScheduler>(platform.scheduler);
+    FakePasteboard& pasteboard = put<FakePasteboard>(platform.pasteboard);
+    FakeAppearance& appearance = put<FakeAppearance>(platform.appearance);
+    FakeScreenSampler& screenSampler = put<FakeScreenSampler>(platform.screenSampler);
+    FakeStatusItem& statusItem = put<FakeStatusItem>(platform.statusItem);
+
+private:
+    template <typename Fake, typename Seam>
+    static Fake& put(std::unique_ptr<Seam>& place) {
+        auto fake = std::make_unique<Fake>();
+        Fake& reference = *fake;
+        place = std::move(fake);
+        return reference;
+    }
+};
+
+} // namespace dropshade
