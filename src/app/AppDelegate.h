@@ -2,13 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/AppSettings.h"
 #include "app/ColorPickerService.h"
 #include "app/StatusMenu.h"
 #include "color/ColorFormat.h"
+#include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
 
 #include <QObject>
 
+#include <memory>
 #include <optional>
 
 namespace dropshade {
@@ -25,7 +28,7 @@ public:
     /// Puts up the status item and begins to listen. Once, when the application is about to run.
     void applicationDidFinishLaunching();
 
-    /// Ends what is still waiting. Once, when the application is about to end.
+    /// Writes what is still waiting, and ends the rest. Once, when the application is about to end.
     void applicationWillTerminate();
 
     /// Samples the screen and copies the colour. Does nothing while a sample is up.
@@ -34,9 +37,14 @@ public:
     /// True from the start of a sample until its flow has ended.
     bool isPicking() const { return m_isPicking; }
 
-    /// Counts the copy and puts the colour's text on the clipboard, in `format` or else in the
-    /// format of the settings.
+    /// Counts the copy, puts the colour's text on the clipboard, in `format` or else in the format
+    /// of the settings, and remembers the colour among the recent ones if the settings want it.
     void copyColor(const SRGBColor& color, std::optional<ColorFormat> format = std::nullopt);
+
+    [[nodiscard]] AppSettings& settings() { return m_settings; }
+
+    /// Loaded at the first call, or soon after the launch.
+    [[nodiscard]] UserPaletteStore& paletteStore();
 
 Q_SIGNALS:
     /// The user asked for the end of the program.
@@ -50,9 +58,13 @@ private:
     void countCopy();
 
     Platform m_platform;
+    AppSettings m_settings;
+    PalettePresets m_presets;
+    std::unique_ptr<UserPaletteStore> m_paletteStore;
     ColorPickerService m_colorPickerService;
     StatusMenu m_statusMenu;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
+    std::unique_ptr<ScheduledWork> m_paletteLoad;
     bool m_isPicking = false;
 };
 
