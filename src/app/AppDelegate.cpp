@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 
+#include "app/LegacyPreferences.h"
+#include "app/RecentColor.h"
 #include "app/SettingsReaders.h"
 #include "widgets/Theme.h"
 #include "widgets/TintedIcon.h"
 
 #include <QCoreApplication>
+#include <QDir>
+
+#include <utility>
 
 namespace dropshade {
 
@@ -14,6 +19,15 @@ namespace {
 
 /// The windows under a menu need a moment to draw what it covered, or the loupe shows its ghost.
 constexpr std::chrono::milliseconds menuFadeDelay{100};
+
+/// A tray takes some turns of the event loop to put the icon up, and a large library holds up one.
+constexpr std::chrono::milliseconds paletteLoadDelay{500};
+
+/// Before anybody reads a setting.
+Platform withLegacyPreferences(Platform platform) {
+    importLegacyPreferences(*platform.defaults, legacyPreferencesPath(QDir::homePath()));
+    return platform;
+}
 
 QString statusIconResource(MenuBarIconStyle style) {
     switch (style) {
@@ -30,7 +44,8 @@ QString statusIconResource(MenuBarIconStyle style) {
 } // namespace
 
 AppDelegate::AppDelegate(Platform platform)
-    : m_platform(std::move(platform)),
+    : m_platform(withLegacyPreferences(std::move(platform))),
+      m_settings(*m_platform.defaults, *m_platform.scheduler), m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
       m_statusMenu(*m_platform.statusItem) {}
@@ -41,22 +56,28 @@ void AppDelegate::applicationDidFinishLaunching() {
     connect(m_platform.statusItem.get(), &StatusItem::clicked, this,
             &AppDelegate::statusItemClicked);
     updateStatusIcon();
-    connect(m_platform.defaults.get(), &UserDefaults::didChange, this, [this](const QString& key) {
-        if (key == keys::menuBarIconStyle)
-            updateStatusIcon();
-    });
+    connect(&m_settings, &AppSettings::menuBarIconStyleDidChange, this,
+            &AppDelegate::updateStatusIcon);
     connect(m_platform.appearance.get(), &DesktopAppearance::didChange, this,
             &AppDelegate::updateStatusIcon);
     connect(m_platform.instance.get(), &ApplicationInstance::activated, &m_statusMenu,
             &StatusMenu::show);
     connect(&m_statusMenu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
     connect(&m_statusMenu, &StatusMenu::quitClicked, this, &AppDelegate::quitRequested);
+    m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay,
+                                                [this] { static_cast<void>(paletteStore()); });
     if (UpdateService::automaticallyChecksForUpdates(*m_platform.defaults))
         updateService();
 }
 
 void AppDelegate::applicationWillTerminate() {
     m_pickAfterMenu.reset();
+    m_paletteLoad.reset();
+    // The store first: its save may bring the pins in line.
+    if (m_paletteStore && m_paletteStore->hasPendingSave())
+        m_paletteStore->flushPendingSave();
+    if (m_settings.hasPendingPins())
+        m_settings.flushPendingPins();
     // Qt may wait for a clipboard manager that is slow to take the text over; nothing of the
     // program should be seen meanwhile.
     m_platform.statusItem->setIcon(QIcon());
@@ -66,7 +87,14 @@ void AppDelegate::updateStatusIcon() {
     const auto scheme =
         m_platform.appearance->isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light;
     m_platform.statusItem->setIcon(tintedStatusIcon(
-        statusIconResource(menuBarIconStyle(*m_platform.defaults)), Theme::of(scheme).textPrimary));
+        statusIconResource(m_settings.menuBarIconStyle()), Theme::of(scheme).textPrimary));
+}
+
+UserPaletteStore& AppDelegate::paletteStore() {
+    if (!m_paletteStore)
+        m_paletteStore = std::make_unique<UserPaletteStore>(
+            *m_platform.defaults, *m_platform.scheduler, m_settings, m_presets);
+    return *m_paletteStore;
 }
 
 void AppDelegate::statusItemClicked(const StatusItemClick& click) {
@@ -98,10 +126,12 @@ void AppDelegate::finishPick(const std::optional<SRGBColor>& color) {
 
 void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> format) {
     countCopy();
-    const UserDefaults& defaults = *m_platform.defaults;
+    UserDefaults& defaults = *m_platform.defaults;
     const std::string text =
         formatted(color, format.value_or(colorFormat(defaults)), formatOptions(defaults));
     m_platform.pasteboard->setText(QString::fromStdString(text));
+    if (showRecentColors(defaults) && recentColorsLimit(defaults) >= 1)
+        recordRecentColor(defaults, color);
     m_soundService.play();
 }
 

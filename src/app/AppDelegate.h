@@ -2,16 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/AppSettings.h"
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
 #include "app/UpdateDialogs.h"
 #include "app/UpdateService.h"
 #include "color/ColorFormat.h"
+#include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
 
 #include <QObject>
 
+#include <memory>
 #include <optional>
 
 namespace dropshade {
@@ -28,7 +31,7 @@ public:
     /// Puts up the status item and begins to listen. Once, when the application is about to run.
     void applicationDidFinishLaunching();
 
-    /// Ends what is still waiting. Once, when the application is about to end.
+    /// Writes what is still waiting, and ends the rest. Once, when the application is about to end.
     void applicationWillTerminate();
 
     /// Samples the screen and copies the colour. Does nothing while a sample is up.
@@ -38,8 +41,14 @@ public:
     bool isPicking() const { return m_isPicking; }
 
     /// Counts the copy, puts the colour's text on the clipboard, in `format` or else in the format
-    /// of the settings, and plays the sound of the settings.
+    /// of the settings, remembers the colour among the recent ones if the settings want it, and
+    /// plays their sound.
     void copyColor(const SRGBColor& color, std::optional<ColorFormat> format = std::nullopt);
+
+    [[nodiscard]] AppSettings& settings() { return m_settings; }
+
+    /// Loaded at the first call, or soon after the launch.
+    [[nodiscard]] UserPaletteStore& paletteStore();
 
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
@@ -56,12 +65,16 @@ private:
     void countCopy();
 
     Platform m_platform;
+    AppSettings m_settings;
+    PalettePresets m_presets;
+    std::unique_ptr<UserPaletteStore> m_paletteStore;
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
     StatusMenu m_statusMenu;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
     std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
+    std::unique_ptr<ScheduledWork> m_paletteLoad;
     bool m_isPicking = false;
 };
 

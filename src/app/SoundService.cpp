@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/SoundService.h"
 
+#include "app/CopySound.h"
 #include "app/SettingsReaders.h"
-#include "app/SoundNames.h"
 
 #include <QFile>
 
@@ -16,7 +16,7 @@ SoundService::SoundService(const UserDefaults& defaults, SoundPlayer& player, co
 
 void SoundService::play() {
     const QString name = copySound(m_defaults);
-    if (name == noSound)
+    if (name == noCopySound)
         return;
     if (m_loadedSound != name)
         load(name);
@@ -25,7 +25,7 @@ void SoundService::play() {
 }
 
 void SoundService::load(const QString& name) {
-    if (name == noSound) {
+    if (name == noCopySound) {
         m_isPrepared = false;
         m_loadedSound = name;
         return;

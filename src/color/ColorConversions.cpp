@@ -79,4 +79,27 @@ HSBComponents hsbComponents(const SRGBColor& color) {
     return {hueDegrees / 360.0, max == 0.0 ? 0.0 : (max - min) / max, max, color.alpha()};
 }
 
+SRGBColor hsbToSRGB(double hue, double saturation, double brightness, double alpha) {
+    const double turn = (hue - std::floor(hue)) * 6.0;
+    const double sector = std::floor(turn);
+    const double fraction = turn - sector;
+    const double low = brightness * (1.0 - saturation);
+    const double falling = brightness * (1.0 - saturation * fraction);
+    const double rising = brightness * (1.0 - saturation * (1.0 - fraction));
+    switch (static_cast<int>(sector)) {
+    case 1:
+        return {falling, brightness, low, alpha};
+    case 2:
+        return {low, brightness, rising, alpha};
+    case 3:
+        return {low, falling, brightness, alpha};
+    case 4:
+        return {rising, low, brightness, alpha};
+    case 5:
+        return {brightness, low, falling, alpha};
+    default:
+        return {brightness, rising, low, alpha};
+    }
+}
+
 } // namespace dropshade

@@ -71,4 +71,7 @@ struct HSBComponents {
 /// 0, a grey has hue 0.
 [[nodiscard]] HSBComponents hsbComponents(const SRGBColor& color);
 
+/// HSB to RGB by the same source, the components as in `HSBComponents`. A hue of 1 is that of 0.
+[[nodiscard]] SRGBColor hsbToSRGB(double hue, double saturation, double brightness, double alpha);
+
 } // namespace dropshade

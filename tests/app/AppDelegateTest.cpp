@@ -156,9 +156,9 @@ TEST_F(AppDelegateTest, PlaysTheSoundOfTheSettingsOnceTheTextIsOnTheClipboard) {
 
 TEST_F(AppDelegateTest, ReplacesTheImageAtOnceWhenTheIconStyleChanges) {
     const QImage picker = lastIcon();
-    fakes.defaults.setValue(keys::menuBarIconStyle, QStringLiteral("swatch"));
+    delegate.settings().setMenuBarIconStyle(MenuBarIconStyle::Swatch);
     const QImage swatch = lastIcon();
-    fakes.defaults.setValue(keys::menuBarIconStyle, QStringLiteral("palette"));
+    delegate.settings().setMenuBarIconStyle(MenuBarIconStyle::Palette);
     const QImage palette = lastIcon();
     EXPECT_NE(picker, swatch);
     EXPECT_NE(swatch, palette);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/SoundService.h"
 
+#include "app/CopySound.h"
 #include "app/SettingsReaders.h"
-#include "app/SoundNames.h"
 #include "support/FakeSoundPlayer.h"
 #include "support/MemoryDefaults.h"
 
@@ -123,25 +123,9 @@ TEST_F(SoundServiceTest, StaysSilentWhereTheFileIsMissingAfterNone) {
     EXPECT_TRUE(m_player.played().isEmpty());
 }
 
-TEST(SoundNames, EachHaveAResourceOfTheProgram) {
-    for (const QLatin1StringView name : soundNames)
+TEST(CopySounds, EachHaveAResourceOfTheProgram) {
+    for (const QLatin1StringView name : copySounds)
         EXPECT_TRUE(QFile::exists(resource(name))) << name.data();
-}
-
-TEST(CopySoundSetting, LetsOnlyListedNamesThrough) {
-    MemoryDefaults defaults;
-    const auto read = [&defaults](const DefaultsValue& stored) {
-        defaults.setValue(keys::copySound, stored);
-        return copySound(defaults);
-    };
-    EXPECT_EQ(copySound(defaults), defaultSound);
-    for (const QLatin1StringView name : soundNames)
-        EXPECT_EQ(read(QString(name)), name);
-    EXPECT_EQ(read(QStringLiteral("none")), noSound);
-    EXPECT_EQ(read(QStringLiteral("Coin")), defaultSound);
-    EXPECT_EQ(read(QStringLiteral("../coin")), defaultSound);
-    EXPECT_EQ(read(QString()), defaultSound);
-    EXPECT_EQ(read(qint64(3)), defaultSound);
 }
 
 } // namespace

@@ -9,14 +9,14 @@
 namespace dropshade {
 
 /// The sounds of a copy, in the order in which the settings list them.
-inline constexpr std::array<QLatin1StringView, 9> soundNames{
+inline constexpr std::array<QLatin1StringView, 9> copySounds{
     QLatin1StringView("coin"), QLatin1StringView("collect"), QLatin1StringView("drop"),
     QLatin1StringView("ding"), QLatin1StringView("fart"),    QLatin1StringView("plink"),
     QLatin1StringView("pop"),  QLatin1StringView("retro"),   QLatin1StringView("whoosh"),
 };
 
 /// Stands for silence; not a sound.
-inline constexpr QLatin1StringView noSound("none");
-inline constexpr QLatin1StringView defaultSound("drop");
+inline constexpr QLatin1StringView noCopySound("none");
+inline constexpr QLatin1StringView defaultCopySound("drop");
 
 } // namespace dropshade

@@ -1,0 +1,80 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "json/JsonError.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QUuid>
+
+#include <string_view>
+
+namespace dropshade {
+
+/// Reads one JSON document (RFC 8259) from front to end, value by value, with no tree in between.
+/// Everything throws `JsonError` where the text is no JSON, or where the value at hand is not of
+/// the kind asked for.
+///
+/// - The text must be UTF-8; a byte order mark is no part of JSON.
+/// - An escaped lone surrogate reads as U+FFFD.
+/// - A number too large for a double is an error, one too small is 0.
+/// - Values may nest 512 deep.
+class JsonReader {
+public:
+    explicit JsonReader(const QByteArray& text);
+
+    /// Calls `read(key)` for each key; it must take the value by one call on this reader. The key
+    /// is UTF-8 and good until then.
+    template <typename Read>
+    void object(Read read) {
+        enter('{');
+        for (bool isFirst = true; nextItem('}', isFirst); isFirst = false) {
+            QByteArray unescaped;
+            const std::string_view name = stringBytes(unescaped);
+            expect(':');
+            read(name);
+        }
+    }
+
+    /// Calls `read()` for each element; it must take it by one call on this reader.
+    template <typename Read>
+    void array(Read read) {
+        enter('[');
+        for (bool isFirst = true; nextItem(']', isFirst); isFirst = false)
+            read();
+    }
+
+    [[nodiscard]] QString string();
+    [[nodiscard]] double number();
+    /// A string that spells an id, in either case.
+    [[nodiscard]] QUuid uuid();
+    /// Takes the value if it is null, and says whether it was.
+    [[nodiscard]] bool null();
+    /// Takes one value of any kind.
+    void skip();
+
+    /// Nothing but white space may follow.
+    void end();
+
+private:
+    void enter(char bracket);
+    bool nextItem(char bracket, bool isFirst);
+    void skipWhiteSpace();
+    char peek();
+    void expect(char character);
+    bool takeWord(std::string_view word);
+    std::string_view stringBytes(QByteArray& unescaped);
+    QByteArray unescape(std::size_t begin);
+    void appendEscape(QByteArray& bytes);
+    char32_t escapedUnit();
+    std::string_view numberText();
+    void takeDigits();
+
+    QByteArray m_owner;
+    std::string_view m_text;
+    std::size_t m_at = 0;
+    int m_depth = 0;
+};
+
+} // namespace dropshade

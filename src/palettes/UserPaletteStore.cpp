@@ -1,0 +1,416 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "palettes/UserPaletteStore.h"
+
+#include "app/SettingsReaders.h"
+#include "palettes/PaletteJson.h"
+#include "json/UuidText.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <utility>
+
+namespace dropshade {
+namespace {
+
+constexpr std::chrono::milliseconds saveDelay{250};
+
+template <typename Item>
+qsizetype indexOf(const QList<Item>& items, const QUuid& id) {
+    const auto found = std::find_if(items.cbegin(), items.cend(),
+                                    [&id](const Item& item) { return item.id() == id; });
+    return found == items.cend() ? -1 : found - items.cbegin();
+}
+
+template <typename Item>
+QList<QUuid> idsOf(const QList<Item>& items) {
+    QList<QUuid> ids;
+    ids.reserve(items.size());
+    for (const Item& item : items)
+        ids.append(item.id());
+    return ids;
+}
+
+/// All of the items in the order of `ids`, or nothing where that leaves one out or has one twice.
+template <typename Item>
+std::optional<QList<Item>> ordered(const QList<Item>& items, const QList<QUuid>& ids) {
+    QHash<QUuid, qsizetype> places;
+    for (qsizetype index = 0; index < items.size(); ++index)
+        places.insert(items.at(index).id(), index);
+    QSet<QUuid> taken;
+    QList<Item> result;
+    for (const QUuid& id : ids) {
+        const auto place = places.constFind(id);
+        if (place == places.cend())
+            continue;
+        if (taken.contains(id))
+            return std::nullopt;
+        taken.insert(id);
+        result.append(items.at(*place));
+    }
+    return result.size() == items.size() ? std::optional(result) : std::nullopt;
+}
+
+/// As `ordered`, but nothing also where that is the present order.
+template <typename Item>
+std::optional<QList<Item>> reordered(const QList<Item>& items, const QList<QUuid>& ids) {
+    auto result = ordered(items, ids);
+    return result && idsOf(*result) != idsOf(items) ? result : std::nullopt;
+}
+
+/// The weights of relative luminance on components that are not linear: what looks lighter to a
+/// user who reads hexadecimal digits, not what is.
+double lightness(const PaletteSwatch& swatch) {
+    const SRGBColor& color = swatch.color();
+    return 0.2126 * color.red() + 0.7152 * color.green() + 0.0722 * color.blue();
+}
+
+QList<PaletteSwatch> sorted(const QList<PaletteSwatch>& swatches,
+                            UserPaletteStore::SortOrder order) {
+    QList<PaletteSwatch> result = swatches;
+    const bool isLightFirst = order == UserPaletteStore::SortOrder::LightToDark;
+    std::stable_sort(result.begin(), result.end(),
+                     [isLightFirst](const PaletteSwatch& a, const PaletteSwatch& b) {
+                         return isLightFirst ? lightness(a) > lightness(b)
+                                             : lightness(a) < lightness(b);
+                     });
+    return result;
+}
+
+/// The name to set, or nothing where a rename to `to` means none.
+std::optional<QString> newName(const QString& present, const QString& to) {
+    const QString trimmed = to.trimmed();
+    return trimmed.isEmpty() || trimmed == present ? std::nullopt : std::optional(trimmed);
+}
+
+} // namespace
+
+UserPaletteStore::UserPaletteStore(UserDefaults& defaults, Scheduler& scheduler,
+                                   AppSettings& settings, PalettePresets& presets)
+    : m_defaults(defaults), m_scheduler(scheduler), m_settings(settings) {
+    const auto json = m_defaults.read<QByteArray>(keys::userPalettes);
+    const auto stored = json ? decodedPalettes(*json, m_scheduler.now()) : std::nullopt;
+    if (!stored) {
+        seed(presets);
+        return;
+    }
+    m_palettes = *stored;
+    // Where the key has never been written, the program has just learnt to collapse.
+    if (!m_defaults.contains(keys::collapsedPaletteIds))
+        collapseAll();
+}
+
+UserPaletteStore::~UserPaletteStore() = default;
+
+void UserPaletteStore::seed(PalettePresets& presets) {
+    for (const Palette& preset : presets.defaults())
+        m_palettes.append(preset.freshCopy(m_scheduler.now()));
+    collapseAll();
+    scheduleSave(PinValidation::Wanted);
+}
+
+void UserPaletteStore::collapseAll() {
+    const QList<QUuid> ids = idsOf(m_palettes);
+    storeCollapsedIds(QSet<QUuid>(ids.begin(), ids.end()));
+}
+
+void UserPaletteStore::setPalettes(const QList<Palette>& palettes) {
+    m_palettes = palettes;
+    Q_EMIT palettesDidChange();
+}
+
+Palette UserPaletteStore::addPalette(const Palette& palette) {
+    Palette added = palette.freshCopy(m_scheduler.now());
+    const QString name = added.name().isEmpty()
+                             ? tr("Imported Palette", "Default name for an imported palette")
+                             : added.name();
+    added.setName(uniqueName(name));
+    m_palettes.prepend(added);
+    Q_EMIT palettesDidChange();
+    scheduleSave();
+    return added;
+}
+
+void UserPaletteStore::deletePalette(QUuid id) {
+    const auto removed =
+        m_palettes.removeIf([&id](const Palette& palette) { return palette.id() == id; });
+    if (removed > 0)
+        Q_EMIT palettesDidChange();
+    m_settings.unpinPalette(id);
+    scheduleSave();
+}
+
+void UserPaletteStore::duplicatePalette(QUuid id) {
+    const qsizetype index = indexOf(m_palettes, id);
+    if (index < 0)
+        return;
+    Palette copy = m_palettes.at(index).freshCopy(m_scheduler.now());
+    copy.setName(copy.name() + QLatin1Char(' ') + tr("copy", "Duplicate palette name suffix"));
+    m_palettes.insert(index + 1, copy);
+    Q_EMIT palettesDidChange();
+    scheduleSave();
+}
+
+void UserPaletteStore::renamePalette(QUuid id, const QString& to) {
+    QString name;
+    const bool isRenamed = editPalette(id, [&](Palette& palette) {
+        const auto renamed = newName(palette.name(), to);
+        name = renamed.value_or(QString());
+        palette.setName(name);
+        return renamed.has_value();
+    });
+    if (!isRenamed)
+        return;
+    m_settings.renamePinnedPalette(id, name);
+    scheduleSave();
+}
+
+void UserPaletteStore::renameScale(QUuid paletteId, QUuid scaleId, const QString& to) {
+    QString name;
+    const bool isRenamed = editScale(paletteId, scaleId, [&](PaletteScale& scale) {
+        const auto renamed = newName(scale.name(), to);
+        name = renamed.value_or(QString());
+        scale.setName(name);
+        return renamed.has_value();
+    });
+    if (!isRenamed)
+        return;
+    m_settings.renamePinnedScale(scaleId, name);
+    scheduleSave();
+}
+
+std::optional<QUuid> UserPaletteStore::addScale(QUuid paletteId) {
+    const PaletteScale scale(tr("Untitled", "Default name for new palette scale"),
+                             {PaletteSwatch(QStringLiteral("#ffffff"))});
+    const bool isAdded = editPalette(paletteId, [&scale](Palette& palette) {
+        palette.setScales(palette.scales() + QList{scale});
+        return true;
+    });
+    if (!isAdded)
+        return std::nullopt;
+    scheduleSave();
+    return scale.id();
+}
+
+void UserPaletteStore::duplicateScale(QUuid paletteId, QUuid scaleId) {
+    const bool isAdded = editPalette(paletteId, [&scaleId](Palette& palette) {
+        QList<PaletteScale> scales = palette.scales();
+        const qsizetype index = indexOf(scales, scaleId);
+        if (index < 0)
+            return false;
+        PaletteScale copy = scales.at(index).freshCopy();
+        copy.setName(copy.name() + QLatin1Char(' ') + tr("copy", "Duplicate palette name suffix"));
+        scales.insert(index + 1, copy);
+        palette.setScales(scales);
+        return true;
+    });
+    if (isAdded)
+        scheduleSave();
+}
+
+void UserPaletteStore::deleteScale(QUuid paletteId, QUuid scaleId) {
+    const bool isDeleted = editPalette(paletteId, [&scaleId](Palette& palette) {
+        QList<PaletteScale> scales = palette.scales();
+        const auto removed = scales.removeIf(
+            [&scaleId](const PaletteScale& scale) { return scale.id() == scaleId; });
+        palette.setScales(scales);
+        return removed > 0;
+    });
+    if (!isDeleted)
+        return;
+    m_settings.unpinScale(scaleId);
+    scheduleSave();
+}
+
+void UserPaletteStore::addSwatch(QUuid paletteId, QUuid scaleId, PaletteSwatch swatch) {
+    const bool isAdded = editScale(paletteId, scaleId, [&swatch](PaletteScale& scale) {
+        scale.setSwatches(scale.swatches() + QList{swatch});
+        return true;
+    });
+    if (isAdded)
+        scheduleSave();
+}
+
+void UserPaletteStore::updateSwatch(QUuid paletteId, QUuid scaleId, PaletteSwatch swatch) {
+    const bool isUpdated = editScale(paletteId, scaleId, [&swatch](PaletteScale& scale) {
+        QList<PaletteSwatch> swatches = scale.swatches();
+        const qsizetype index = indexOf(swatches, swatch.id());
+        if (index < 0)
+            return false;
+        swatches.replace(index, swatch);
+        scale.setSwatches(swatches);
+        return true;
+    });
+    if (!isUpdated)
+        return;
+    m_settings.updatePinnedSwatch(swatch.id(), swatch.value(), swatch.label());
+    scheduleSave();
+}
+
+void UserPaletteStore::deleteSwatch(QUuid paletteId, QUuid scaleId, QUuid swatchId) {
+    const bool isKnownScale = editScale(paletteId, scaleId, [&swatchId](PaletteScale& scale) {
+        QList<PaletteSwatch> swatches = scale.swatches();
+        swatches.removeIf(
+            [&swatchId](const PaletteSwatch& swatch) { return swatch.id() == swatchId; });
+        scale.setSwatches(swatches);
+        return true;
+    });
+    if (!isKnownScale)
+        return;
+    m_settings.unpinSwatch(swatchId);
+    scheduleSave();
+}
+
+void UserPaletteStore::sortSwatches(QUuid paletteId, QUuid scaleId, SortOrder order) {
+    const bool isSorted = editScale(paletteId, scaleId, [order](PaletteScale& scale) {
+        const QList<PaletteSwatch> swatches = sorted(scale.swatches(), order);
+        const bool differs = swatches != scale.swatches();
+        scale.setSwatches(swatches);
+        return differs;
+    });
+    if (isSorted)
+        scheduleSave();
+}
+
+void UserPaletteStore::reorderPalettes(const QList<QUuid>& ids) {
+    if (const auto palettes = ordered(m_palettes, ids)) {
+        setPalettes(*palettes);
+        scheduleSave();
+    }
+}
+
+void UserPaletteStore::reorderScales(QUuid paletteId, const QList<QUuid>& ids) {
+    const bool isReordered = editPalette(paletteId, [&ids](Palette& palette) {
+        const auto scales = reordered(palette.scales(), ids);
+        if (scales)
+            palette.setScales(*scales);
+        return scales.has_value();
+    });
+    if (isReordered)
+        scheduleSave();
+}
+
+void UserPaletteStore::reorderSwatches(QUuid paletteId, QUuid scaleId, const QList<QUuid>& ids) {
+    const bool isReordered = editScale(paletteId, scaleId, [&ids](PaletteScale& scale) {
+        const auto swatches = reordered(scale.swatches(), ids);
+        if (swatches)
+            scale.setSwatches(*swatches);
+        return swatches.has_value();
+    });
+    if (isReordered)
+        scheduleSave();
+}
+
+void UserPaletteStore::moveSwatch(QUuid paletteId, QUuid fromScaleId, QUuid swatchId,
+                                  QUuid toScaleId, qsizetype toIndex) {
+    const qsizetype at = indexOf(m_palettes, paletteId);
+    if (fromScaleId == toScaleId || at < 0)
+        return;
+    const Palette palette = m_palettes.at(at);
+    QList<PaletteScale> scales = palette.scales();
+    const qsizetype from = indexOf(scales, fromScaleId);
+    const qsizetype to = indexOf(scales, toScaleId);
+    const qsizetype place = from < 0 ? -1 : indexOf(scales.at(from).swatches(), swatchId);
+    if (to < 0 || place < 0)
+        return;
+    QList<PaletteSwatch> source = scales.at(from).swatches();
+    QList<PaletteSwatch> target = scales.at(to).swatches();
+    const PaletteSwatch swatch = source.takeAt(place);
+    target.insert(std::clamp<qsizetype>(toIndex, 0, target.size()), swatch);
+
+    // Two changes for those who watch: the swatch leaves its place before it takes another.
+    scales[from].setSwatches(source);
+    m_palettes[at].setScales(scales);
+    Q_EMIT palettesDidChange();
+    scales[to].setSwatches(target);
+    editPalette(paletteId, [&scales](Palette& changed) {
+        changed.setScales(scales);
+        return true;
+    });
+    m_settings.movePinnedSwatch(swatchId, toScaleId, scales.at(to).name());
+    scheduleSave();
+}
+
+QString UserPaletteStore::uniqueName(const QString& name) const {
+    QSet<QString> names;
+    for (const Palette& palette : m_palettes)
+        names.insert(palette.name());
+    QString unique = name;
+    for (int number = 2; names.contains(unique); ++number)
+        unique = name + QStringLiteral(" (") + QString::number(number) + QLatin1Char(')');
+    return unique;
+}
+
+void UserPaletteStore::scheduleSave(PinValidation pins) {
+    m_isPinValidationPending = m_isPinValidationPending || pins == PinValidation::Wanted;
+    m_pendingSave = m_scheduler.after(saveDelay, [this] { flushPendingSave(); });
+}
+
+void UserPaletteStore::flushPendingSave() {
+    m_pendingSave.reset();
+    if (std::exchange(m_isPinValidationPending, false))
+        m_settings.validatePins(m_palettes);
+    const auto json = encodedPalettes(m_palettes);
+    if (json && m_defaults.setValue(keys::userPalettes, *json))
+        Q_EMIT didChange();
+}
+
+QSet<QUuid> UserPaletteStore::collapsedPaletteIds() const {
+    QSet<QUuid> ids;
+    const auto texts = m_defaults.read<QStringList>(keys::collapsedPaletteIds);
+    for (const QString& text : texts.value_or(QStringList())) {
+        if (const auto id = uuidFromText(text))
+            ids.insert(*id);
+    }
+    return ids;
+}
+
+void UserPaletteStore::setCollapsed(QUuid id, bool collapsed) {
+    QSet<QUuid> ids = collapsedPaletteIds();
+    if (collapsed)
+        ids.insert(id);
+    else
+        ids.remove(id);
+    storeCollapsedIds(ids);
+}
+
+void UserPaletteStore::storeCollapsedIds(const QSet<QUuid>& ids) {
+    QStringList texts;
+    for (const QUuid& id : ids)
+        texts.append(uuidText(id));
+    // No order carries a meaning, but one that stays is easier on whoever compares.
+    texts.sort();
+    m_defaults.setValue(keys::collapsedPaletteIds, texts);
+}
+
+/// Edits a copy of the palette; where `edit` says that it has changed, stamps it and puts it in.
+bool UserPaletteStore::editPalette(QUuid id, const PaletteEdit& edit) {
+    const qsizetype index = indexOf(m_palettes, id);
+    if (index < 0)
+        return false;
+    Palette palette = m_palettes.at(index);
+    if (!edit(palette))
+        return false;
+    palette.setLastModified(m_scheduler.now());
+    m_palettes.replace(index, palette);
+    Q_EMIT palettesDidChange();
+    return true;
+}
+
+bool UserPaletteStore::editScale(QUuid paletteId, QUuid scaleId, const ScaleEdit& edit) {
+    return editPalette(paletteId, [&](Palette& palette) {
+        QList<PaletteScale> scales = palette.scales();
+        const qsizetype index = indexOf(scales, scaleId);
+        if (index < 0)
+            return false;
+        PaletteScale scale = scales.at(index);
+        if (!edit(scale))
+            return false;
+        scales.replace(index, scale);
+        palette.setScales(scales);
+        return true;
+    });
+}
+
+} // namespace dropshade
