@@ -25,7 +25,7 @@ namespace {
 using namespace dropshade;
 using namespace dropshade::bench;
 
-constexpr int runs = 15;
+constexpr int runs = 9;
 constexpr int side = 200;
 constexpr double solverBudgetMicroseconds = 100.0;
 

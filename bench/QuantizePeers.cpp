@@ -10,7 +10,7 @@
 #include <libimagequant.h>
 #include <wand/MagickWand.h>
 
-#include <chrono>
+#include <ctime>
 
 namespace dropshade::bench {
 
@@ -53,11 +53,10 @@ Outcome timed(const std::string& quantizer, int runs,
               const std::function<std::vector<Pixel>()>& run) {
     Outcome outcome{quantizer, {}, {}};
     for (int at = 0; at < runs; ++at) {
-        const auto start = std::chrono::steady_clock::now();
+        const std::clock_t start = std::clock();
         outcome.palette = run();
-        const std::chrono::duration<double, std::milli> time =
-            std::chrono::steady_clock::now() - start;
-        outcome.times.push_back(time.count());
+        outcome.times.push_back(static_cast<double>(std::clock() - start) * 1000.0 /
+                                CLOCKS_PER_SEC);
     }
     return outcome;
 }

@@ -18,7 +18,8 @@ struct Sample {
     std::vector<Pixel> pixels;
 };
 
-/// What one quantiser made of a sample, and how long each run of it took, in milliseconds.
+/// What one quantiser made of a sample, and what each run of it cost, in milliseconds
+/// of processor time, all threads together: a busy machine counts for little then.
 struct Outcome {
     std::string quantizer;
     std::vector<double> times;

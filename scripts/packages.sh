@@ -3,11 +3,18 @@
 # Sourced by ./run and ./test: what each of them needs, and a way to have it.
 # shellcheck shell=sh
 
+<<<<<<< HEAD
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev libqt6svg6-dev
     libsqlite3-dev libxcb1-dev libxcb-keysyms1-dev libheif-dev libsndfile1-dev"
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth pulseaudio pulseaudio-utils python3
     python3-xlib fonts-dejavu-core"
 test_packages="libgtest-dev libgmock-dev qt6-image-formats-plugins clang-format-14 git openssl"
+=======
+build_packages="g++ cmake ninja-build pkg-config qt6-base-dev libqt6svg6-dev libsqlite3-dev
+    libxcb1-dev libxcb-keysyms1-dev libheif-dev"
+desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth python3 python3-xlib fonts-dejavu-core"
+test_packages="python3-dbus python3-gi libgtest-dev libgmock-dev qt6-image-formats-plugins clang-format-14 git"
+>>>>>>> main
 
 say() { printf '%s\n' "$*"; }
 

@@ -244,14 +244,14 @@ class VirtualDesktop:
         at = (x, y - reach) if y >= reach else (x - reach if x >= reach else x + reach, y)
         return self.pixel(*at) == (255, 255, 255)
 
-    def screenshot(self, path):
-        """Writes the whole screen as a PNG, pixel for pixel."""
-        width, height, _ = self._size
+    def screenshot(self, path, area=None):
+        """Writes the screen, or x, y, width, height of it, as a PNG, pixel for pixel."""
+        left, top, width, height = area or (0, 0, *self._size[:2])
         rows = []
         band = 128
         for y in range(0, height, band):
             count = min(band, height - y)
-            data = self.root.get_image(0, y, width, count, X.ZPixmap, 0xFFFFFFFF).data
+            data = self.grab(left, top + y, width, count)
             for row in range(count):
                 line = data[row * width * 4:(row + 1) * width * 4]
                 rgb = bytearray(width * 3)

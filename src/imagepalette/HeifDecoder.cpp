@@ -46,9 +46,11 @@ QColorSpace iccColorSpace(const heif_image_handle* handle) {
 /// them.
 QColorSpace codedColorSpace(const heif_image_handle* handle) {
     heif_color_profile_nclx* raw = nullptr;
-    if (!succeeded(heif_image_handle_get_nclx_color_profile(handle, &raw)) || !raw)
-        return QColorSpace::SRgb;
+    const bool isKnown = succeeded(heif_image_handle_get_nclx_color_profile(handle, &raw));
+    // Given out even where a code point in it is unknown.
     const HeifColorProfile profile(raw);
+    if (!isKnown || !profile)
+        return QColorSpace::SRgb;
     auto curve = QColorSpace::TransferFunction::SRgb;
     float gamma = 0.0F;
     if (profile->transfer_characteristics == heif_transfer_characteristic_linear) {

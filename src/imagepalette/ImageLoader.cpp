@@ -58,12 +58,20 @@ QSize reduced(QSize size, int longest) {
     return {side(size.width()), side(size.height())};
 }
 
+bool isIndexed(QImage::Format format) {
+    return format == QImage::Format_Mono || format == QImage::Format_MonoLSB ||
+           format == QImage::Format_Indexed8;
+}
+
 QImage scaledTo(QSize size, QImage image) {
     if (image.size() == size)
         return image;
     // In place where nobody else has the image; the scaler would make a whole copy in this format.
+    // It also believes every index to be in the colour table; the conversion looks.
     if (image.hasAlphaChannel())
         image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    else if (isIndexed(image.format()))
+        image.convertTo(QImage::Format_RGB32);
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
@@ -127,7 +135,8 @@ std::optional<LoadedImage> loadByReader(const QByteArray& data, ImageFileFormat 
         !fitsInMemory(reader, format))
         return std::nullopt;
     const QSize target = reduced(size, ImageLoader::longestSide);
-    if (target != size && reader.supportsOption(QImageIOHandler::ScaledSize))
+    if (target != size && !isIndexed(reader.imageFormat()) &&
+        reader.supportsOption(QImageIOHandler::ScaledSize))
         reader.setScaledSize(target);
     const bool isTurned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     QImage image;

@@ -94,7 +94,7 @@ void LoupePicture::paintShadow(QPainter& painter, const QRectF& disc) const {
     for (int step = 0; step <= steps; ++step) {
         const double along = static_cast<double>(step) / steps;
         const double falling = 1.0 - along * along * (3.0 - 2.0 * along);
-        QColor color = m_theme.popupShadow;
+        QColor color = m_theme.dragShadow;
         color.setAlphaF(static_cast<float>(color.alphaF() * falling));
         gradient.setColorAt((inner + along * (outer - inner)) / outer, color);
     }

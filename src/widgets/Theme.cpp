@@ -28,7 +28,7 @@ Theme lightTheme() {
     theme.textOnPlate = QColor(0xF4, 0xF4, 0xF4);
     theme.textPrimary = QColor(0x1A, 0x1A, 0x1A);
     theme.linePlate = QColor(0, 0, 0, 0);
-    theme.popupShadow = QColor(0, 0, 0, 41);
+    theme.dragShadow = QColor(0, 0, 0, 71);
     return loupeColors(theme);
 }
 
@@ -40,7 +40,7 @@ Theme darkTheme() {
     theme.textOnPlate = QColor(0xED, 0xED, 0xED);
     theme.textPrimary = QColor(0xED, 0xED, 0xED);
     theme.linePlate = QColor(255, 255, 255, 41);
-    theme.popupShadow = QColor(0, 0, 0, 122);
+    theme.dragShadow = QColor(0, 0, 0, 153);
     return loupeColors(theme);
 }
 

@@ -24,7 +24,7 @@ struct Theme {
     QColor textOnPlate;
     QColor textPrimary;
     QColor linePlate;
-    QColor popupShadow; ///< The wide one of the two shadows under popups.
+    QColor dragShadow; ///< Under what floats over everything: dragged things and the loupe.
 
     // The loupe lies on any picture, so its edges are double: one shows wherever the other does
     // not.

@@ -112,6 +112,6 @@ class DropshadeCase(unittest.TestCase):
     def copies_counted(self):
         return self.setting("totalChecksCount") or 0
 
-    def save_screenshot(self, name):
+    def save_screenshot(self, name, area=None):
         SCREENSHOTS.mkdir(parents=True, exist_ok=True)
-        self.desktop.screenshot(str(SCREENSHOTS / name))
+        self.desktop.screenshot(str(SCREENSHOTS / name), area)

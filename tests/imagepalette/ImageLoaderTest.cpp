@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace dropshade {
@@ -330,6 +331,13 @@ TEST(PixelBufferOf, TakesImagesWithPaddedRows) {
     std::vector<uchar> bytes(1024 * 100, 255);
     const QImage image(bytes.data(), 5, 100, 1024, QImage::Format_RGBX8888);
     EXPECT_EQ(pixelsOf(image), std::vector<Pixel>(500, Pixel{255, 255, 255}));
+}
+
+TEST(PixelBufferOf, TakesIndicesBeyondTheColourTable) {
+    QImage image(300, 9, QImage::Format_Indexed8);
+    image.setColorTable({qRgb(1, 2, 3)});
+    std::fill_n(image.bits(), image.sizeInBytes(), uchar{255});
+    EXPECT_EQ(pixelsOf(image).size(), 200u * 6u);
 }
 
 TEST(PixelBufferOf, TakesEveryImageFormat) {

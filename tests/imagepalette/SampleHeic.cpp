@@ -5,6 +5,13 @@
 
 #include <cstring>
 
+#ifdef __SANITIZE_ADDRESS__
+// The encoder keeps some memory until the process ends.
+extern "C" const char* __lsan_default_suppressions() {
+    return "leak:libx265";
+}
+#endif
+
 namespace dropshade::SampleFiles {
 
 namespace {

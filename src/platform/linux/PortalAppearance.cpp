@@ -3,7 +3,6 @@
 #include "platform/linux/PortalAppearance.h"
 
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
@@ -27,7 +26,7 @@ PortalAppearance::PortalAppearance() {
     if (!bus.isConnected())
         return;
     bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"),
-                this, SLOT(settingChanged(QString, QString, QDBusVariant)));
+                this, SLOT(settingChanged(QDBusMessage)));
     ask();
 }
 
@@ -53,17 +52,16 @@ void PortalAppearance::ask() {
     });
 }
 
-void PortalAppearance::settingChanged(const QString& group, const QString& key,
-                                      const QDBusVariant& value) {
-    if (group == appearanceGroup && key == colorSchemeKey)
-        setPreference(value.variant());
+void PortalAppearance::settingChanged(const QDBusMessage& message) {
+    const QVariantList arguments = message.arguments();
+    if (arguments.size() == 3 && arguments[0] == appearanceGroup && arguments[1] == colorSchemeKey)
+        setPreference(arguments[2]);
 }
 
 void PortalAppearance::setPreference(const QVariant& colorScheme) {
     // Older portals wrap the answer in one more variant.
-    const QVariant inner = colorScheme.canConvert<QDBusVariant>()
-                               ? colorScheme.value<QDBusVariant>().variant()
-                               : colorScheme;
+    const bool isWrapped = colorScheme.metaType() == QMetaType::fromType<QDBusVariant>();
+    const QVariant inner = isWrapped ? colorScheme.value<QDBusVariant>().variant() : colorScheme;
     constexpr uint preferDark = 1;
     constexpr uint preferLight = 2;
     const bool wasDark = isDark();

@@ -4,7 +4,7 @@
 
 #include "platform/DesktopAppearance.h"
 
-class QDBusVariant;
+#include <QDBusMessage>
 
 namespace dropshade {
 
@@ -19,7 +19,7 @@ public:
     [[nodiscard]] bool isDark() const override;
 
 private Q_SLOTS:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void settingChanged(const QDBusMessage& message);
 
 private:
     enum class Preference { None, Dark, Light };

@@ -3,13 +3,11 @@
 #include "platform/linux/X11InputCapture.h"
 
 #include <array>
-#include <chrono>
 
 namespace dropshade {
 
 namespace {
 
-constexpr std::chrono::milliseconds retryDelay{20};
 constexpr std::uint32_t pointerEvents =
     XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION;
 
@@ -19,9 +17,6 @@ X11InputCapture::X11InputCapture(const XcbConnection& connection, const QRect& b
     : m_connection(connection), m_symbols(xcb_key_symbols_alloc(connection.get())) {
     createInvisibleCursor();
     createWindow(bounds);
-    m_retry.setInterval(retryDelay);
-    QObject::connect(&m_retry, &QTimer::timeout, &m_retry, [this] { grab(); });
-    grab();
 }
 
 X11InputCapture::~X11InputCapture() {
@@ -63,13 +58,10 @@ void X11InputCapture::createWindow(const QRect& bounds) {
     xcb_flush(m_connection.get());
 }
 
-void X11InputCapture::grab() {
+bool X11InputCapture::grab() {
     m_hasPointer = m_hasPointer || grabPointer();
     m_hasKeyboard = m_hasKeyboard || grabKeyboard();
-    if (m_hasPointer && m_hasKeyboard)
-        m_retry.stop();
-    else if (!m_retry.isActive())
-        m_retry.start();
+    return m_hasPointer && m_hasKeyboard;
 }
 
 bool X11InputCapture::grabPointer() {

@@ -6,7 +6,6 @@
 
 #include <QPoint>
 #include <QRect>
-#include <QTimer>
 
 #include <xcb/xcb_keysyms.h>
 
@@ -22,6 +21,10 @@ public:
     X11InputCapture(const X11InputCapture&) = delete;
     X11InputCapture& operator=(const X11InputCapture&) = delete;
 
+    /// True once both are taken. Another program may hold either for a while, such as the panel
+    /// whose icon is being pressed, or an open menu; then it is to be tried again.
+    [[nodiscard]] bool grab();
+
     /// The pointer's pixel on the root window, by the server's own account.
     [[nodiscard]] QPoint pointerPosition() const;
     void warpPointer(const QPoint& position);
@@ -32,7 +35,6 @@ public:
 private:
     void createWindow(const QRect& bounds);
     void createInvisibleCursor();
-    void grab();
     [[nodiscard]] bool grabPointer();
     [[nodiscard]] bool grabKeyboard();
 
@@ -42,7 +44,6 @@ private:
     xcb_key_symbols_t* m_symbols = nullptr;
     bool m_hasPointer = false;
     bool m_hasKeyboard = false;
-    QTimer m_retry;
 };
 
 } // namespace dropshade

@@ -17,6 +17,8 @@ constexpr int shiftedStep = 10;
 /// A button that is never reported up must not keep the pointer from other programs.
 constexpr std::chrono::milliseconds longestPress{1000};
 constexpr std::chrono::milliseconds notPressed{0};
+/// Between two attempts to take what another program holds.
+constexpr std::chrono::milliseconds grabDelay{20};
 
 enum Button : xcb_button_t { Left = 1, WheelUp = 4, WheelDown = 5 };
 
@@ -84,7 +86,16 @@ X11Loupe::X11Loupe(std::unique_ptr<XcbConnection> connection,
     xcb_change_window_attributes(m_connection->get(), m_connection->screen().root,
                                  XCB_CW_EVENT_MASK, &rootEvents);
     connect(&m_notifier, &QSocketNotifier::activated, this, &X11Loupe::readEvents);
-    // Not at once: a click may already be waiting, and nobody listens to `finished` yet.
+    m_nextGrab.setSingleShot(true);
+    m_nextGrab.setInterval(grabDelay);
+    connect(&m_nextGrab, &QTimer::timeout, this, &X11Loupe::takeInput);
+    takeInput();
+}
+
+void X11Loupe::takeInput() {
+    if (!m_input.grab() && !m_isFinished)
+        m_nextGrab.start();
+    // Not at once: a click may already be waiting, and at first nobody listens to `finished` yet.
     readEventsSoon();
 }
 

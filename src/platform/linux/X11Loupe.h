@@ -10,6 +10,7 @@
 
 #include <QObject>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <chrono>
 
@@ -36,6 +37,7 @@ Q_SIGNALS:
 private:
     X11Loupe(std::unique_ptr<XcbConnection> connection, std::unique_ptr<X11FrozenScreen> screen,
              const Theme& theme, ScreenSampler::Describe describe);
+    void takeInput();
     void readEvents();
     void readEventsSoon();
     void handle(const xcb_generic_event_t& event);
@@ -54,6 +56,7 @@ private:
     ScreenSampler::Describe m_describe;
     std::optional<LoupePicture> m_picture;
     QSocketNotifier m_notifier;
+    QTimer m_nextGrab;
     bool m_needsDrawing = true;
     bool m_isFinished = false;
 };
