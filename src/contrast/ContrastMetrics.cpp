@@ -89,9 +89,9 @@ bool passesLc(double lc, double minimum) {
 }
 
 bool prefersLightInk(const SRGBColor& color) {
-    const SRGBColor black(0.0, 0.0, 0.0);
-    const SRGBColor white(1.0, 1.0, 1.0);
-    return contrastRatio(color, black) < contrastRatio(color, white);
+    // Asked for every swatch of a library: the two inks need no measuring.
+    const double luminance = relativeLuminance(color);
+    return contrastRatioOfLuminances(luminance, 0.0) < contrastRatioOfLuminances(luminance, 1.0);
 }
 
 } // namespace dropshade

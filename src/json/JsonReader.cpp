@@ -20,6 +20,15 @@ bool isDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
+bool isWhiteSpace(char character) {
+    return character == ' ' || character == '\t' || character == '\r' || character == '\n';
+}
+
+/// Whether a byte of a string stands for itself.
+bool isPlain(char byte) {
+    return byte != '"' && byte != '\\' && static_cast<unsigned char>(byte) >= 0x20;
+}
+
 bool isHighSurrogate(char32_t unit) {
     return unit >= 0xD800 && unit < 0xDC00;
 }
@@ -116,8 +125,7 @@ bool JsonReader::nextItem(char bracket, bool isFirst) {
 }
 
 void JsonReader::skipWhiteSpace() {
-    while (m_at < m_text.size() &&
-           std::string_view(" \t\r\n").find(m_text[m_at]) != std::string_view::npos)
+    while (m_at < m_text.size() && isWhiteSpace(m_text[m_at]))
         ++m_at;
 }
 
@@ -144,18 +152,17 @@ bool JsonReader::takeWord(std::string_view word) {
 std::string_view JsonReader::stringBytes(QByteArray& unescaped) {
     expect('"');
     const std::size_t begin = m_at;
-    for (; m_at < m_text.size(); ++m_at) {
-        const auto byte = static_cast<unsigned char>(m_text[m_at]);
-        if (byte == '"')
-            return m_text.substr(begin, m_at++ - begin);
-        if (byte == '\\') {
-            unescaped = unescape(begin);
-            return {unescaped.constData(), std::size_t(unescaped.size())};
-        }
-        if (byte < 0x20)
-            break;
+    std::size_t end = begin;
+    while (end < m_text.size() && isPlain(m_text[end]))
+        ++end;
+    m_at = end;
+    if (end < m_text.size() && m_text[end] == '"') {
+        ++m_at;
+        return m_text.substr(begin, end - begin);
     }
-    throw JsonError("a string without its end");
+    // An end that isn't there, or a control character, is for `unescape` to find.
+    unescaped = unescape(begin);
+    return {unescaped.constData(), std::size_t(unescaped.size())};
 }
 
 QByteArray JsonReader::unescape(std::size_t begin) {

@@ -4,9 +4,11 @@
 
 #include "json/JsonError.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
 
 namespace dropshade {
 namespace {
@@ -40,11 +42,14 @@ void JsonWriter::key(std::string_view name) {
 void JsonWriter::string(const QString& text) {
     separate();
     m_bytes.push_back('"');
-    if (isPlain(text))
-        for (const QChar character : text)
-            m_bytes.push_back(static_cast<char>(character.unicode()));
-    else
+    if (isPlain(text)) {
+        const std::size_t begin = m_bytes.size();
+        m_bytes.resize(begin + std::size_t(text.size()));
+        std::transform(text.cbegin(), text.cend(), m_bytes.begin() + std::ptrdiff_t(begin),
+                       [](QChar character) { return static_cast<char>(character.unicode()); });
+    } else {
         appendEscaped(text);
+    }
     m_bytes.push_back('"');
 }
 
@@ -77,27 +82,18 @@ void JsonWriter::number(double value) {
 void JsonWriter::uuid(const QUuid& id) {
     separate();
     m_bytes.push_back('"');
-    appendHex(id.data1 >> 24U);
-    appendHex(id.data1 >> 16U);
-    appendHex(id.data1 >> 8U);
-    appendHex(id.data1);
-    for (const ushort pair : {id.data2, id.data3}) {
-        m_bytes.push_back('-');
-        appendHex(uint(pair) >> 8U);
-        appendHex(pair);
+    const QByteArray bytes = id.toRfc4122();
+    std::array<char, 36> text{};
+    std::size_t at = 0;
+    for (qsizetype index = 0; index < bytes.size(); ++index) {
+        if (index == 4 || index == 6 || index == 8 || index == 10)
+            text[at++] = '-';
+        const auto byte = static_cast<unsigned char>(bytes.at(index));
+        text[at++] = upperDigits[byte >> 4U];
+        text[at++] = upperDigits[byte & 0xFU];
     }
-    m_bytes.push_back('-');
-    for (std::size_t index = 0; index < 8; ++index) {
-        if (index == 2)
-            m_bytes.push_back('-');
-        appendHex(id.data4[index]);
-    }
+    m_bytes.append(text.data(), text.size());
     m_bytes.push_back('"');
-}
-
-void JsonWriter::appendHex(unsigned byte) {
-    m_bytes.push_back(upperDigits[(byte >> 4U) & 0xFU]);
-    m_bytes.push_back(upperDigits[byte & 0xFU]);
 }
 
 void JsonWriter::open(char bracket) {

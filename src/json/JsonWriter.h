@@ -41,7 +41,6 @@ private:
     void close(char bracket);
     void separate();
     void appendEscaped(const QString& text);
-    void appendHex(unsigned byte);
 
     /// Appending a byte is the work done most, and cheaper here than in Qt's containers.
     std::string m_bytes;

@@ -15,15 +15,21 @@ constexpr bool isHyphenPlace(std::size_t index) {
     return index == 8 || index == 13 || index == 18 || index == 23;
 }
 
-/// The digit's value, or −1.
-constexpr int hexDigit(char character) {
-    if (character >= '0' && character <= '9')
-        return character - '0';
-    if (character >= 'A' && character <= 'F')
-        return character - 'A' + 10;
-    if (character >= 'a' && character <= 'f')
-        return character - 'a' + 10;
-    return -1;
+/// The value of each character as a digit, or −1.
+constexpr auto digitValues = [] {
+    std::array<signed char, 256> values{};
+    values.fill(-1);
+    for (int digit = 0; digit < 10; ++digit)
+        values[std::size_t('0' + digit)] = static_cast<signed char>(digit);
+    for (int digit = 10; digit < 16; ++digit) {
+        values[std::size_t('A' + digit - 10)] = static_cast<signed char>(digit);
+        values[std::size_t('a' + digit - 10)] = static_cast<signed char>(digit);
+    }
+    return values;
+}();
+
+int hexDigit(char character) {
+    return digitValues[static_cast<unsigned char>(character)];
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "support/QtPrinters.h"
+#include "support/Seed.h"
 #include "json/JsonDocument.h"
 
 #include <gtest/gtest.h>
@@ -120,8 +121,9 @@ TEST(JsonReader, SurvivesEveryCutAndRandomDamage) {
         R"([{"id":"0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9","a":[1.5e-3,null,true,"\uD83C\u00e9x"]}])";
     for (qsizetype length = 0; length < text.size(); ++length)
         EXPECT_FALSE(isJson(text.first(length)));
-    const unsigned seed = 11;
-    std::mt19937 random(seed);
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
+    std::mt19937_64 random(seed);
     for (int round = 0; round < 20000; ++round) {
         QByteArray damaged = text;
         for (unsigned count = random() % 4; count > 0; --count)

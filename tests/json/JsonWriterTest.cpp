@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "support/QtPrinters.h"
+#include "support/Seed.h"
 #include "json/JsonDocument.h"
 
 #include <gtest/gtest.h>
@@ -84,7 +85,8 @@ TEST(JsonWriter, WritesEveryNumberSoThatItReadsBackToTheSameBits) {
                                   Reals::min(), Reals::denorm_min(),
                                   -1e-320,      9007199254740993.0,
                                   1e22,         1e23};
-    const unsigned seed = 20260101;
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
     std::mt19937_64 random(seed);
     while (values.size() < 20000) {
         const double value = std::bit_cast<double>(random());
@@ -92,14 +94,14 @@ TEST(JsonWriter, WritesEveryNumberSoThatItReadsBackToTheSameBits) {
             values.push_back(value);
     }
     for (const double value : values)
-        EXPECT_EQ(std::bit_cast<quint64>(readBack(value)), std::bit_cast<quint64>(value))
-            << value << ", seed " << seed;
+        EXPECT_EQ(std::bit_cast<quint64>(readBack(value)), std::bit_cast<quint64>(value)) << value;
 }
 
 TEST(JsonWriter, WritesEveryWellFormedTextSoThatItReadsBack) {
-    const unsigned seed = 7;
-    std::mt19937 random(seed);
-    const auto below = [&random](unsigned end) { return random() % end; };
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
+    std::mt19937_64 random(seed);
+    const auto below = [&random](unsigned end) { return unsigned(random() % end); };
     for (int round = 0; round < 2000; ++round) {
         QString text;
         for (unsigned length = below(20); length > 0; --length) {
@@ -109,7 +111,7 @@ TEST(JsonWriter, WritesEveryWellFormedTextSoThatItReadsBack) {
             text += QString::fromUcs4(&character, 1);
         }
         JsonReader reader(written(text));
-        EXPECT_EQ(reader.string(), text) << "seed " << seed;
+        EXPECT_EQ(reader.string(), text);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "support/Palettes.h"
 #include "support/QtPrinters.h"
+#include "support/Seed.h"
 
 #include <gtest/gtest.h>
 
@@ -79,7 +80,8 @@ TEST(PaletteJson, LeavesAnAbsentLabelOutAndKeepsAnEmptyOne) {
 }
 
 TEST(PaletteJson, GivesPalettesBackWhole) {
-    const unsigned seed = 424242;
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
     RandomPalettes random(seed);
     for (int round = 0; round < 300; ++round) {
         const QList<Palette> palettes = random.palettes();
@@ -88,7 +90,7 @@ TEST(PaletteJson, GivesPalettesBackWhole) {
         ASSERT_FALSE(QJsonDocument::fromJson(*json).isNull()) << json->toStdString();
         const auto decoded = decodedPalettes(*json, now);
         ASSERT_TRUE(decoded) << json->toStdString();
-        EXPECT_TRUE(areSame(*decoded, palettes)) << "seed " << seed << ", round " << round;
+        EXPECT_TRUE(areSame(*decoded, palettes)) << "round " << round;
     }
 }
 
@@ -205,7 +207,8 @@ TEST(PaletteJson, GivesNothingForJunk) {
 }
 
 TEST(PaletteJson, SurvivesRandomDamage) {
-    const unsigned seed = 99;
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
     RandomPalettes random(seed);
     const QByteArray json = *encodedPalettes({example(), example()});
     for (int round = 0; round < 5000; ++round) {
@@ -214,7 +217,7 @@ TEST(PaletteJson, SurvivesRandomDamage) {
             damaged[qsizetype(random.below(unsigned(json.size())))] =
                 static_cast<char>(random.below(256));
         const auto decoded = decodedPalettes(damaged, now);
-        EXPECT_TRUE(!decoded || encodedPalettes(*decoded)) << "seed " << seed << ", " << round;
+        EXPECT_TRUE(!decoded || encodedPalettes(*decoded)) << "round " << round;
     }
 }
 

@@ -5,6 +5,7 @@
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SqliteDefaults.h"
 #include "support/QtPrinters.h"
+#include "support/Seed.h"
 
 #include <gtest/gtest.h>
 
@@ -62,7 +63,9 @@ protected:
 };
 
 TEST_F(KilledStore, LosesNothingThatWasSaved) {
-    std::mt19937 random(2026);
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
+    std::mt19937_64 random(seed);
     for (int round = 0; round < 8; ++round) {
         start("flush");
         int saved = 0;

@@ -3,6 +3,7 @@
 #include "plist/PropertyListGuard.h"
 
 #include "support/BinaryPropertyLists.h"
+#include "support/Seed.h"
 
 #include <gtest/gtest.h>
 
@@ -81,7 +82,9 @@ TEST(PropertyListGuard, SurvivesEveryCutAndRandomDamage) {
     const QByteArray whole = fixture("preferences-binary.plist");
     for (qsizetype length = 0; length < whole.size(); ++length)
         static_cast<void>(isReasonablePropertyList(whole.first(length)));
-    std::mt19937 random(5);
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
+    std::mt19937_64 random(seed);
     for (int round = 0; round < 20000; ++round) {
         QByteArray damaged = whole;
         for (unsigned count = 1 + random() % 4; count > 0; --count)

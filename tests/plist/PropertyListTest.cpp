@@ -3,6 +3,7 @@
 #include "plist/PropertyList.h"
 
 #include "support/BinaryPropertyLists.h"
+#include "support/Seed.h"
 
 #include <gtest/gtest.h>
 
@@ -53,7 +54,9 @@ TEST_P(PropertyListForms, SurviveEveryCut) {
 
 TEST_P(PropertyListForms, SurviveRandomDamage) {
     const QByteArray whole = fixture(GetParam());
-    std::mt19937 random(3);
+    const auto seed = testSeed();
+    SCOPED_TRACE(seedTrace(seed));
+    std::mt19937_64 random(seed);
     for (int round = 0; round < 20000; ++round) {
         QByteArray damaged = whole;
         for (unsigned count = 1 + random() % 3; count > 0; --count)

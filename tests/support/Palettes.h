@@ -4,6 +4,7 @@
 
 #include "palettes/Palette.h"
 
+#include <cstdint>
 #include <initializer_list>
 #include <random>
 
@@ -47,9 +48,9 @@ inline bool isSame(const Palette& a, const Palette& b) {
 /// lists, absent and empty labels and moments that use every bit.
 class RandomPalettes {
 public:
-    explicit RandomPalettes(unsigned seed) : m_random(seed) {}
+    explicit RandomPalettes(std::uint64_t seed) : m_random(seed) {}
 
-    [[nodiscard]] unsigned below(unsigned end) { return m_random() % end; }
+    [[nodiscard]] unsigned below(unsigned end) { return unsigned(m_random() % end); }
 
     [[nodiscard]] QString text() {
         static const QStringList parts = {
@@ -94,7 +95,7 @@ public:
     }
 
 private:
-    std::mt19937 m_random;
+    std::mt19937_64 m_random;
 };
 
 } // namespace dropshade
