@@ -3,6 +3,7 @@
 #include "platform/Pasteboard.h"
 
 #include "platform/linux/QtPasteboard.h"
+#include "platform/linux/X11Pasteboard.h"
 #include "support/FakePasteboard.h"
 
 #include <QClipboard>
@@ -27,11 +28,13 @@ protected:
 struct AdapterNames {
     template <typename Adapter>
     static std::string GetName(int) {
-        return std::is_same_v<Adapter, FakePasteboard> ? "Fake" : "Qt";
+        if constexpr (std::is_same_v<Adapter, FakePasteboard>)
+            return "Fake";
+        return std::is_same_v<Adapter, QtPasteboard> ? "Qt" : "X11";
     }
 };
 
-using Adapters = testing::Types<FakePasteboard, QtPasteboard>;
+using Adapters = testing::Types<FakePasteboard, QtPasteboard, X11Pasteboard>;
 TYPED_TEST_SUITE(PasteboardContract, Adapters, AdapterNames);
 
 TYPED_TEST(PasteboardContract, HasNoTextAtFirst) {

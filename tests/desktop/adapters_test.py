@@ -1,0 +1,39 @@
+# Copyright (c) 2026 The Dropshade authors
+# SPDX-License-Identifier: MIT
+"""The contract tests of the adapters that need a real X server, on one.
+
+usage: adapters_test.py FOLDER_OF_TEST_PROGRAMS
+"""
+
+import os
+import subprocess
+import sys
+import unittest
+
+from dropshade_case import VirtualDesktop
+
+FOLDER = sys.argv.pop(1) if len(sys.argv) > 1 else "build/release/tests/platform"
+
+
+class Adapters(unittest.TestCase):
+
+    def run_contract(self, name):
+        with VirtualDesktop() as desktop:
+            result = subprocess.run(
+                [os.path.join(FOLDER, name)], capture_output=True, text=True, timeout=90,
+                check=False, env={**desktop.environment, "QT_QPA_PLATFORM": "xcb"})
+        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        self.assertNotIn("SKIPPED", result.stdout)
+
+    def test_the_tray_keeps_the_contract_of_the_status_item(self):
+        self.run_contract("StatusItemContractTest")
+
+    def test_the_loupe_keeps_the_contract_of_the_sampler(self):
+        self.run_contract("ScreenSamplerContractTest")
+
+    def test_the_clipboard_keeps_the_contract_of_the_pasteboard(self):
+        self.run_contract("PasteboardContractTest")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,53 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QGuiApplication>
+#include <QPoint>
+
+#include <X11/keysym.h>
+#include <xcb/xcb_keysyms.h>
+#include <xcb/xtest.h>
+
+namespace dropshade {
+
+/// The mouse and the keyboard of the X server that the test runs on, by its XTEST extension.
+class X11Hand {
+public:
+    X11Hand() : m_connection(xcb_connect(nullptr, nullptr)) {}
+    ~X11Hand() { xcb_disconnect(m_connection); }
+    X11Hand(const X11Hand&) = delete;
+    X11Hand& operator=(const X11Hand&) = delete;
+
+    /// False under a platform of Qt without a server, where there is nothing to test.
+    static bool isThere() { return QGuiApplication::platformName() == QLatin1String("xcb"); }
+
+    void moveTo(const QPoint& position) {
+        const xcb_screen_t* screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+        xcb_warp_pointer(m_connection, XCB_NONE, screen->root, 0, 0, 0, 0,
+                         static_cast<std::int16_t>(position.x()),
+                         static_cast<std::int16_t>(position.y()));
+        xcb_flush(m_connection);
+    }
+
+    void click(std::uint8_t button) { send(XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE, button); }
+
+    void escape() {
+        xcb_key_symbols_t* symbols = xcb_key_symbols_alloc(m_connection);
+        xcb_keycode_t* codes = xcb_key_symbols_get_keycode(symbols, XK_Escape);
+        send(XCB_KEY_PRESS, XCB_KEY_RELEASE, codes[0]);
+        std::free(codes);
+        xcb_key_symbols_free(symbols);
+    }
+
+private:
+    void send(std::uint8_t down, std::uint8_t up, std::uint8_t detail) {
+        for (const std::uint8_t type : {down, up})
+            xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+        xcb_flush(m_connection);
+    }
+
+    xcb_connection_t* m_connection;
+};
+
+} // namespace dropshade
