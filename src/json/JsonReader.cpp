@@ -97,7 +97,7 @@ void JsonReader::skip() {
     case 'n':
         return static_cast<void>(takeWord("null"));
     default:
-        return static_cast<void>(number());
+        return static_cast<void>(numberText());
     }
 }
 

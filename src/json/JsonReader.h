@@ -18,7 +18,7 @@ namespace dropshade {
 ///
 /// - The text must be UTF-8; a byte order mark is no part of JSON.
 /// - An escaped lone surrogate reads as U+FFFD.
-/// - A number too large for a double is an error, one too small is 0.
+/// - A number too large for a double is an error unless it is skipped, one too small is 0.
 /// - Values may nest 512 deep.
 class JsonReader {
 public:

@@ -132,5 +132,15 @@ TEST(JsonReader, SurvivesEveryCutAndRandomDamage) {
     }
 }
 
+TEST(JsonReader, SkipsANumberOutOfRange) {
+    JsonReader reader("[1e999,1]");
+    int count = 0;
+    reader.array([&] {
+        reader.skip();
+        ++count;
+    });
+    EXPECT_EQ(count, 2);
+}
+
 } // namespace
 } // namespace dropshade
