@@ -128,8 +128,9 @@ QImage LoupePicture::magnified(const LoupeScene& scene) const {
 
 void LoupePicture::paintDisc(QPainter& painter, const LoupeScene& scene) const {
     const QImage image = magnified(scene);
-    const QPointF origin =
-        middleCell(scene).topLeft() - QPointF(1, 1) * (scene.cells.width() / 2) * scene.cellPixels;
+    const int cellsBefore = scene.cells.width() / 2;
+    const int before = cellsBefore * scene.cellPixels;
+    const QPointF origin = middleCell(scene).topLeft() - QPointF(before, before);
     QBrush brush(image);
     brush.setTransform(QTransform::fromTranslate(origin.x(), origin.y()));
     painter.setPen(Qt::NoPen);

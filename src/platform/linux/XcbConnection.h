@@ -10,9 +10,13 @@
 
 namespace dropshade {
 
+struct XcbFree {
+    void operator()(void* reply) const { std::free(reply); }
+};
+
 /// What libxcb hands out and expects to be freed.
 template <typename T>
-using XcbReply = std::unique_ptr<T, decltype([](T* reply) { std::free(reply); })>;
+using XcbReply = std::unique_ptr<T, XcbFree>;
 
 /// The connection that Qt runs on; nothing when that is not X11.
 [[nodiscard]] xcb_connection_t* guiConnection();
