@@ -38,7 +38,7 @@ bool isLowSurrogate(char32_t unit) {
 }
 
 void appendUtf8(QByteArray& bytes, char32_t character) {
-    bytes.append(QString::fromUcs4(&character, 1).toUtf8());
+    bytes.append(QStringView(QChar::fromUcs4(character)).toUtf8());
 }
 
 } // namespace
@@ -51,8 +51,13 @@ JsonReader::JsonReader(const QByteArray& text)
 
 QString JsonReader::string() {
     QByteArray unescaped;
-    const std::string_view bytes = stringBytes(unescaped);
-    return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    std::string_view bytes = stringBytes(unescaped);
+    // Qt takes a mark in front for one of the byte order; in here it is a character of the text.
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    QString marks;
+    for (; bytes.substr(0, mark.size()) == mark; bytes.remove_prefix(mark.size()))
+        marks += QChar(QChar::ByteOrderMark);
+    return marks + QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
 QUuid JsonReader::uuid() {

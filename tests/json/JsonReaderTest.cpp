@@ -142,5 +142,11 @@ TEST(JsonReader, SkipsANumberOutOfRange) {
     EXPECT_EQ(count, 2);
 }
 
+TEST(JsonReader, KeepsByteOrderMarksInFrontOfAString) {
+    JsonReader reader("\"\\ufeff\xEF\xBB\xBF"
+                      "a\"");
+    EXPECT_EQ(reader.string(), QStringLiteral("\uFEFF\uFEFFa"));
+}
+
 } // namespace
 } // namespace dropshade
