@@ -4,6 +4,7 @@
 // The seams have no code of their own; this file gives their signals a home.
 #include "platform/ApplicationInstance.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/HotKeyRegistrar.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
