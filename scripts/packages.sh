@@ -10,7 +10,7 @@ build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth python3 python3-xlib fonts-dejavu-core"
 test_packages="libgtest-dev libgmock-dev libxcb-xtest0-dev qt6-image-formats-plugins
     python3-dbus python3-gi chromium
-    x11-xserver-utils pulseaudio pulseaudio-utils clang-format-14 git openssl locales"
+    x11-xkb-utils x11-xserver-utils pulseaudio pulseaudio-utils clang-format-14 git openssl locales"
 
 say() { printf '%s\n' "$*"; }
 

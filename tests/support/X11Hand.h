@@ -15,7 +15,13 @@ namespace dropshade {
 class X11Hand {
 public:
     X11Hand() : m_connection(xcb_connect(nullptr, nullptr)) {}
-    ~X11Hand() { xcb_disconnect(m_connection); }
+    ~X11Hand() {
+        // An answer proves that the server has seen all that was sent; it may drop the rest of a
+        // connection that is closed.
+        std::free(
+            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        xcb_disconnect(m_connection);
+    }
     X11Hand(const X11Hand&) = delete;
     X11Hand& operator=(const X11Hand&) = delete;
 

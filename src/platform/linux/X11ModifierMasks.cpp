@@ -16,41 +16,56 @@ namespace {
 
 constexpr int modifierCount = 8;
 
-bool types(xcb_key_symbols_t* symbols, xcb_keycode_t key, xcb_keysym_t wanted) {
-    // The first and the second level: Alt is Meta with Shift on many layouts.
-    return xcb_key_symbols_get_keysym(symbols, key, 0) == wanted ||
-           xcb_key_symbols_get_keysym(symbols, key, 1) == wanted;
-}
+/// Which keys are modifiers, by bit.
+class ModifierMapping {
+public:
+    explicit ModifierMapping(xcb_connection_t* connection)
+        : m_reply(xcb_get_modifier_mapping_reply(connection, xcb_get_modifier_mapping(connection),
+                                                 nullptr)),
+          m_symbols(xcb_key_symbols_alloc(connection)) {}
+    ~ModifierMapping() { xcb_key_symbols_free(m_symbols); }
+    ModifierMapping(const ModifierMapping&) = delete;
+    ModifierMapping& operator=(const ModifierMapping&) = delete;
+
+    /// The bit of the key that makes the symbol; 0 where there is none. Only the bits count that
+    /// have no fixed meaning.
+    [[nodiscard]] std::uint16_t bitOf(xcb_keysym_t symbol) const {
+        if (!m_reply)
+            return 0;
+        const xcb_keycode_t* keys = xcb_get_modifier_mapping_keycodes(m_reply.get());
+        const int keysEach = m_reply->keycodes_per_modifier;
+        for (int index = 0; index < modifierCount * keysEach; ++index) {
+            const auto bit = static_cast<std::uint16_t>(1U << (index / keysEach));
+            if (bit >= XCB_MOD_MASK_1 && keys[index] != XCB_NO_SYMBOL && makes(keys[index], symbol))
+                return bit;
+        }
+        return 0;
+    }
+
+private:
+    /// At the first or the second level: Shift makes a Meta of Alt on many layouts.
+    [[nodiscard]] bool makes(xcb_keycode_t key, xcb_keysym_t symbol) const {
+        return xcb_key_symbols_get_keysym(m_symbols, key, 0) == symbol ||
+               xcb_key_symbols_get_keysym(m_symbols, key, 1) == symbol;
+    }
+
+    XcbReply<xcb_get_modifier_mapping_reply_t> m_reply;
+    xcb_key_symbols_t* m_symbols;
+};
 
 } // namespace
 
 X11ModifierMasks X11ModifierMasks::read(xcb_connection_t* connection) {
+    const ModifierMapping mapping(connection);
+    const auto bitOfEither = [&mapping](xcb_keysym_t left, xcb_keysym_t right) {
+        const std::uint16_t bit = mapping.bitOf(left);
+        return bit != 0 ? bit : mapping.bitOf(right);
+    };
     X11ModifierMasks masks;
-    masks.locks = XCB_MOD_MASK_LOCK;
-    const XcbReply<xcb_get_modifier_mapping_reply_t> mapping(
-        xcb_get_modifier_mapping_reply(connection, xcb_get_modifier_mapping(connection), nullptr));
-    if (!mapping)
-        return masks;
-    const std::array<std::pair<xcb_keysym_t, std::uint16_t*>, 6> wanted{
-        {{XKB_KEY_Alt_L, &masks.alt},
-         {XKB_KEY_Alt_R, &masks.alt},
-         {XKB_KEY_Super_L, &masks.super},
-         {XKB_KEY_Super_R, &masks.super},
-         {XKB_KEY_Num_Lock, &masks.locks},
-         {XKB_KEY_Scroll_Lock, &masks.locks}}};
-    xcb_key_symbols_t* symbols = xcb_key_symbols_alloc(connection);
-    const xcb_keycode_t* keys = xcb_get_modifier_mapping_keycodes(mapping.get());
-    const int keysEach = mapping->keycodes_per_modifier;
-    for (int index = 0; index < modifierCount * keysEach; ++index) {
-        const auto mask = static_cast<std::uint16_t>(1U << (index / keysEach));
-        // A Meta key that is Alt's neighbour on Mod1 makes neither Shift nor Control an Alt.
-        const bool isOfItsOwn = mask >= XCB_MOD_MASK_1;
-        for (const auto& [keysym, field] : wanted) {
-            if (keys[index] != XCB_NO_SYMBOL && isOfItsOwn && types(symbols, keys[index], keysym))
-                *field = static_cast<std::uint16_t>(*field | mask);
-        }
-    }
-    xcb_key_symbols_free(symbols);
+    masks.alt = bitOfEither(XKB_KEY_Alt_L, XKB_KEY_Alt_R);
+    masks.super = bitOfEither(XKB_KEY_Super_L, XKB_KEY_Super_R);
+    masks.locks = std::uint16_t(XCB_MOD_MASK_LOCK | mapping.bitOf(XKB_KEY_Num_Lock) |
+                                mapping.bitOf(XKB_KEY_Scroll_Lock));
     return masks;
 }
 
