@@ -37,6 +37,20 @@ public:
     /// Samples the screen and copies the colour. Does nothing while a sample is up.
     void startPick();
 
+    // The windows, each built at its first use and brought to the front at every one.
+
+    void openColorPicker();
+    void openPalettes();
+    void openContrast();
+    /// Brings up the palettes, then the sheet that turns an image into one.
+    void openNewPaletteFromImage();
+    /// Brings up the palettes, then the panel that asks for a file.
+    void openNewPaletteFromFile();
+    /// Brings up the palettes, then the choice of presets.
+    void openNewPaletteFromPreset();
+    void openSettings();
+    void openAbout();
+
     /// True from the start of a sample until its flow has ended.
     bool isPicking() const { return m_isPicking; }
 

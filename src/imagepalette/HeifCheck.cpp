@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "imagepalette/HeifCheck.h"
 
-#include "imagepalette/ByteReader.h"
+#include "bytes/ByteReader.h"
 #include "imagepalette/HevcHeaders.h"
 
 #include <algorithm>

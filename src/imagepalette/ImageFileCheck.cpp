@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "imagepalette/ImageFileCheck.h"
 
-#include "imagepalette/ByteReader.h"
+#include "bytes/ByteReader.h"
 
 #include <algorithm>
 #include <array>

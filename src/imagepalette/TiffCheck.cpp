@@ -1,6 +1,6 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
-#include "imagepalette/ByteReader.h"
+#include "bytes/ByteReader.h"
 #include "imagepalette/ImageFileCheck.h"
 
 #include <algorithm>

@@ -18,7 +18,7 @@ PLATFORM_CONDITION = re.compile(
 # What belongs to one system stays in that system's folder.
 SYSTEM_FOLDER = "platform/linux/"
 SYSTEM_HEADERS = re.compile(r"^(?:X11/|xcb/|xkbcommon/|QDBus|QtDBus|sqlite3|wayland|sys/|unistd)")
-STANDARD_ONLY = {"dropshade_color", "dropshade_contrast", "dropshade_quantize"}
+STANDARD_ONLY = {"dropshade_bytes", "dropshade_color", "dropshade_contrast", "dropshade_quantize"}
 
 
 def read_layers(path):

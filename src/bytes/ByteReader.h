@@ -20,6 +20,10 @@ public:
     [[nodiscard]] bool failed() const { return m_failed; }
     [[nodiscard]] std::size_t position() const { return m_position; }
     [[nodiscard]] std::size_t size() const { return m_bytes.size(); }
+    /// 0 once a read has failed.
+    [[nodiscard]] std::size_t remaining() const {
+        return m_failed ? 0 : m_bytes.size() - m_position;
+    }
 
     /// Whether `count` bytes from `offset` on lie within the data.
     [[nodiscard]] bool contains(std::uint64_t offset, std::uint64_t count) const {
@@ -35,6 +39,9 @@ public:
         m_failed |= !contains(m_position, count);
         m_position = m_failed ? m_bytes.size() : m_position + static_cast<std::size_t>(count);
     }
+
+    /// The next `count` bytes where they lie, and on behind them; none where there are fewer.
+    std::span<const std::uint8_t> take(std::uint64_t count);
 
     std::uint8_t u8() {
         if (m_failed || m_position >= m_bytes.size()) {
@@ -62,6 +69,9 @@ public:
         const std::uint64_t second = u32();
         return m_endian == Endian::big ? first << 32 | second : second << 32 | first;
     }
+
+    /// An IEEE 754 single; it may be infinite or not a number.
+    float f32();
 
 private:
     std::span<const std::uint8_t> m_bytes;
