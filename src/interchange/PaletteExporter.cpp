@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/PaletteExporter.h"
 
+#include "interchange/ASECoder.h"
 #include "interchange/GenericErrorText.h"
 #include "interchange/PaletteImageRenderer.h"
 #include "interchange/PaletteJSONCoder.h"
@@ -22,6 +23,9 @@ QByteArray rendered(std::optional<QByteArray> picture, const char* failure) {
 QByteArray content(const Palette& palette, PaletteExportFormat format) {
     switch (format) {
     case PaletteExportFormat::ase:
+        if (!ASECoder::fits(palette))
+            throw PaletteExporterError("A name is too long for the format.");
+        return ASECoder::encode(palette);
     case PaletteExportFormat::clr:
     case PaletteExportFormat::json:
         return PaletteJSONCoder::encode(palette);

@@ -40,7 +40,7 @@ public:
 
     /// Writes the file in one step: after a failure the path has what it had before. The extension
     /// of `path` doesn't count. Throws `FileError`, or `PaletteExporterError` for a palette that
-    /// can't be drawn.
+    /// the format has no room for.
     static void write(const Palette& palette, PaletteExportFormat format, const QString& path);
 
 private:

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/PaletteImporter.h"
 
+#include "interchange/ASECoder.h"
+#include "interchange/GenericErrorText.h"
 #include "interchange/PaletteJSONCoder.h"
 #include "interchange/WholeFile.h"
 
@@ -24,10 +26,14 @@ void requireSupported(const QString& extension) {
 
 /// The palette in `data`, under the name that the data or the format gives it.
 Palette decoded(const QByteArray& data, const QString& extension, ReferenceTime now) {
-    if (extension != QStringLiteral("json"))
-        throw PaletteImporterError(Kind::malformedFile, QString());
     try {
-        return PaletteJSONCoder::makePalette(PaletteJSONCoder::decode(data), now);
+        if (extension == QStringLiteral("ase"))
+            return ASECoder::decode(data, now);
+        if (extension == QStringLiteral("json"))
+            return PaletteJSONCoder::makePalette(PaletteJSONCoder::decode(data), now);
+        throw PaletteImporterError(Kind::malformedFile, genericErrorText("CLRCoderError"));
+    } catch (const ASECoderError&) {
+        throw PaletteImporterError(Kind::malformedFile, genericErrorText("ASECoderError"));
     } catch (const JsonError&) {
         throw PaletteImporterError(Kind::malformedFile,
                                    PaletteImporterError::tr("The data isn't in the correct format.",

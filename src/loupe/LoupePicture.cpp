@@ -3,6 +3,7 @@
 #include "loupe/LoupePicture.h"
 
 #include "loupe/LoupeMetrics.h"
+#include "widgets/TypeScale.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -32,7 +33,7 @@ QRectF middleCell(const LoupeScene& scene) {
 } // namespace
 
 LoupePicture::LoupePicture(const Theme& theme, double scale)
-    : m_theme(theme), m_scale(scale), m_font(Theme::valueFont(scale)) {}
+    : m_theme(theme), m_scale(scale), m_font(textFont(TextStyle::ValueField, scale)) {}
 
 QRectF LoupePicture::disc(const LoupeScene& scene) const {
     const double diameter = loupe::discDiameter * m_scale;
@@ -94,7 +95,7 @@ void LoupePicture::paintShadow(QPainter& painter, const QRectF& disc) const {
     for (int step = 0; step <= steps; ++step) {
         const double along = static_cast<double>(step) / steps;
         const double falling = 1.0 - along * along * (3.0 - 2.0 * along);
-        QColor color = m_theme.dragShadow;
+        QColor color = m_theme.shadowDrag.color;
         color.setAlphaF(static_cast<float>(color.alphaF() * falling));
         gradient.setColorAt((inner + along * (outer - inner)) / outer, color);
     }

@@ -5,6 +5,7 @@
 #include "loupe/LoupeModel.h"
 #include "widgets/Theme.h"
 
+#include <QFont>
 #include <QImage>
 #include <QRectF>
 #include <QString>

@@ -14,7 +14,18 @@ public:
     /// True when the user prefers dark windows.
     [[nodiscard]] virtual bool isDark() const = 0;
 
+    /// True when the user asks for stronger edges.
+    [[nodiscard]] virtual bool isHighContrast() const = 0;
+
+    /// True when the user asks for no animations.
+    [[nodiscard]] virtual bool reducesMotion() const = 0;
+
+    /// Whether what lies under a window shows through where the window is translucent. Without
+    /// that, such places are black. Asked each time; it does not announce a change.
+    [[nodiscard]] virtual bool blendsWindows() const = 0;
+
 Q_SIGNALS:
+    /// One of the first three has changed.
     void didChange();
 };
 

@@ -100,6 +100,15 @@ TEST_F(PaletteExporterTest, APaletteThatCannotBeDrawnIsToldInTheGenericSentence)
     EXPECT_EQ(WholeFile::read(path("old.png")), "old");
 }
 
+TEST_F(PaletteExporterTest, ANameTooLongForAFormatIsToldAndEndsNothing) {
+    const PaletteSwatch swatch(QStringLiteral("#f00"), QString(65'535, u'x'));
+    const Palette palette = makePalette("A", {PaletteScale(QString(), {swatch})});
+    exportAs(PaletteExportFormat::ase, palette);
+    m_panels.choose(path("a.ase"));
+    EXPECT_EQ(m_alerts.shown().size(), 1);
+    EXPECT_FALSE(QFile::exists(path("a.ase")));
+}
+
 struct NameRow {
     const char* name;
     const char* paletteName;
@@ -138,7 +147,8 @@ TEST_P(ExportedFile, BeginsAsItsFormatDoes) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ExportedFile,
-    testing::Values(FormatRow{"Json", PaletteExportFormat::json, "{\n  \"name\" : \"Brand\""},
+    testing::Values(FormatRow{"Ase", PaletteExportFormat::ase, "ASEF"},
+                    FormatRow{"Json", PaletteExportFormat::json, "{\n  \"name\" : \"Brand\""},
                     FormatRow{"Txt", PaletteExportFormat::txt, "Brand\n"},
                     FormatRow{"Png", PaletteExportFormat::png, "\x89PNG"},
                     FormatRow{"Pdf", PaletteExportFormat::pdf, "%PDF-"},

@@ -57,7 +57,7 @@ protected:
 };
 
 TEST_F(PaletteImporterTest, TheFileNameWithoutItsExtensionIsThePalettesName) {
-    EXPECT_EQ(m_importer.load(exported("Mine.JSON", PaletteExportFormat::json)).name(),
+    EXPECT_EQ(m_importer.load(exported("Mine.ASE", PaletteExportFormat::ase)).name(),
               QStringLiteral("Mine"));
     EXPECT_EQ(m_importer.load(write("2024.final.json", json)).name(), QStringLiteral("2024.final"));
     EXPECT_EQ(m_importer.load(exported("色 🎨.json", PaletteExportFormat::json)).name(),
@@ -66,6 +66,18 @@ TEST_F(PaletteImporterTest, TheFileNameWithoutItsExtensionIsThePalettesName) {
 
 TEST_F(PaletteImporterTest, AFileNamedByItsExtensionAloneKeepsTheNameInside) {
     EXPECT_EQ(m_importer.load(write(".json", json)).name(), QStringLiteral("Inner"));
+}
+
+TEST_F(PaletteImporterTest, EveryFormatComesBackWithItsColors) {
+    for (const PaletteExportFormat format : {PaletteExportFormat::ase, PaletteExportFormat::json}) {
+        const QString path =
+            exported(qPrintable(QStringLiteral("a.") + fileExtension(format)), format);
+        const Palette palette = m_importer.load(path);
+        ASSERT_EQ(palette.scales().size(), 1);
+        EXPECT_EQ(palette.scales().at(0).name(), QStringLiteral("Blue"));
+        EXPECT_EQ(palette.scales().at(0).swatches().at(0).color(), SRGBColor(0, 0, 1));
+        EXPECT_EQ(palette.lastModified(), m_clock.now());
+    }
 }
 
 TEST_F(PaletteImporterTest, DataWithoutANameKeepsTheOneInside) {
@@ -91,6 +103,29 @@ TEST_F(PaletteImporterTest, AnotherExtensionIsRefusedWithItsText) {
                      .isEmpty());
 }
 
+TEST_F(PaletteImporterTest, TheContentIsNeverGuessedAt) {
+    for (const char* name : {"json.ase", "json.clr"}) {
+        EXPECT_TRUE(refusal([&] { static_cast<void>(m_importer.load(write(name, json))); },
+                            Kind::malformedFile)
+                        .startsWith(QStringLiteral("The file couldn't be read as a palette. ")))
+            << name;
+    }
+    const QString path = exported("really.json", PaletteExportFormat::ase);
+    EXPECT_FALSE(
+        refusal([&] { static_cast<void>(m_importer.load(path)); }, Kind::malformedFile).isEmpty());
+}
+
+TEST_F(PaletteImporterTest, CodecErrorsWithoutWordsAreToldInTheGenericSentence) {
+    EXPECT_EQ(refusal([&] { static_cast<void>(m_importer.decode("no", QStringLiteral("ase"))); },
+                      Kind::malformedFile),
+              QStringLiteral("The file couldn't be read as a palette. The operation couldn't be "
+                             "completed. (ASECoderError)"));
+    EXPECT_EQ(refusal([&] { static_cast<void>(m_importer.decode("no", QStringLiteral("clr"))); },
+                      Kind::malformedFile),
+              QStringLiteral("The file couldn't be read as a palette. The operation couldn't be "
+                             "completed. (CLRCoderError)"));
+}
+
 TEST_F(PaletteImporterTest, AJsonFileWithoutANameFailsThoughTheFileHasOne) {
     EXPECT_FALSE(
         refusal(
@@ -106,6 +141,14 @@ TEST_F(PaletteImporterTest, AMissingFileIsNamedInTheMessage) {
             Kind::malformedFile);
         EXPECT_TRUE(text.contains(QLatin1String(name))) << text.toStdString();
     }
+}
+
+TEST_F(PaletteImporterTest, ReadingLeavesNoFileBehind) {
+    const QStringList before = QDir::temp().entryList({QStringLiteral("*.clr")});
+    EXPECT_FALSE(refusal([&] { static_cast<void>(m_importer.decode("no", QStringLiteral("clr"))); },
+                         Kind::malformedFile)
+                     .isEmpty());
+    EXPECT_EQ(QDir::temp().entryList({QStringLiteral("*.clr")}), before);
 }
 
 TEST_F(PaletteImporterTest, AFileThatChangesWhileItIsReadIsOneOrTheOtherOrAnError) {

@@ -6,21 +6,31 @@
 
 namespace dropshade {
 
-/// A desktop whose look the test decides.
+/// A desktop whose look the test decides. Each setter announces a value that differs.
 class FakeAppearance : public DesktopAppearance {
 public:
     [[nodiscard]] bool isDark() const override { return m_dark; }
+    [[nodiscard]] bool isHighContrast() const override { return m_highContrast; }
+    [[nodiscard]] bool reducesMotion() const override { return m_reducedMotion; }
+    [[nodiscard]] bool blendsWindows() const override { return m_blends; }
 
-    /// Announces a look that differs.
-    void setDark(bool dark) {
-        if (m_dark != dark) {
-            m_dark = dark;
+    void setDark(bool dark) { change(m_dark, dark); }
+    void setHighContrast(bool high) { change(m_highContrast, high); }
+    void setReducedMotion(bool reduced) { change(m_reducedMotion, reduced); }
+    void setBlendsWindows(bool blends) { m_blends = blends; }
+
+private:
+    void change(bool& field, bool value) {
+        if (field != value) {
+            field = value;
             Q_EMIT didChange();
         }
     }
 
-private:
     bool m_dark = false;
+    bool m_highContrast = false;
+    bool m_reducedMotion = false;
+    bool m_blends = true;
 };
 
 } // namespace dropshade

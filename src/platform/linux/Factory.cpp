@@ -14,6 +14,7 @@
 #include "platform/linux/SoundProcess.h"
 #include "platform/linux/SqliteDefaults.h"
 #include "platform/linux/TrayStatusItem.h"
+#include "platform/linux/X11Compositing.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "platform/linux/X11ScreenSampler.h"
 
@@ -49,7 +50,7 @@ Platform makePlatform() {
     platform.defaults = std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath());
     platform.scheduler = std::make_unique<QtScheduler>();
     platform.pasteboard = makePasteboard();
-    platform.appearance = std::make_unique<PortalAppearance>();
+    platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
     platform.soundPlayer = std::make_unique<SoundProcess>(

@@ -6,28 +6,43 @@
 
 #include <QDBusMessage>
 
+#include <functional>
+#include <optional>
+
 namespace dropshade {
 
-/// Light or dark by the desktop portal's settings, and by the program's palette where the desktop
-/// has no portal or no opinion.
+/// The look of the desktop by its portal's settings; light or dark by the program's palette where
+/// the desktop has no portal or no opinion. Contrast and motion are also understood in the form in
+/// which GNOME's own settings come through the portal.
 class PortalAppearance : public DesktopAppearance {
     Q_OBJECT
 
 public:
-    PortalAppearance();
+    /// `blendsWindows` is asked for `DesktopAppearance::blendsWindows`.
+    explicit PortalAppearance(std::function<bool()> blendsWindows);
 
     [[nodiscard]] bool isDark() const override;
+    [[nodiscard]] bool isHighContrast() const override;
+    [[nodiscard]] bool reducesMotion() const override;
+    [[nodiscard]] bool blendsWindows() const override { return m_blendsWindows(); }
 
 private Q_SLOTS:
     void settingChanged(const QDBusMessage& message);
 
 private:
-    enum class Preference { None, Dark, Light };
+    enum class Setting { ColorScheme, Contrast, ReducedMotion, GnomeContrast, GnomeAnimations };
+    struct Row;
+    static const Row rows[];
 
-    void ask();
-    void setPreference(const QVariant& colorScheme);
+    void ask(const Row& row);
+    void set(Setting setting, const QVariant& value);
 
-    Preference m_preference = Preference::None;
+    std::function<bool()> m_blendsWindows;
+    std::optional<bool> m_prefersDark;
+    std::optional<bool> m_wantsContrast;
+    std::optional<bool> m_wantsStillness;
+    bool m_gnomeWantsContrast = false;
+    bool m_gnomeAnimates = true;
 };
 
 } // namespace dropshade
