@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KeyboardShortcuts/CarbonKeyboardShortcuts.h"
 
-#include "platform/ModifierKeys.h"
 #include "KeyboardShortcuts/ShortcutDescription.h"
+#include "platform/ModifierKeys.h"
 
 #include <algorithm>
 #include <cstdio>

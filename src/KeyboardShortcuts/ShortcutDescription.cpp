@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "KeyboardShortcuts/ShortcutDescription.h"
 
-#include "platform/ModifierKeys.h"
 #include "KeyboardShortcuts/SpecialKey.h"
+#include "platform/ModifierKeys.h"
 
 #include <QList>
 

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "support/FakeAlerts.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeApplicationInstance.h"
 #include "support/FakeFeedFetcher.h"
+#include "support/FakeFilePanels.h"
 #include "support/FakeHotKeyRegistrar.h"
 #include "support/FakeKeyboardLayout.h"
 #include "support/FakePasteboard.h"
@@ -31,6 +33,8 @@ struct FakePlatform {
     FakeKeyboardLayout& keyboardLayout = put<FakeKeyboardLayout>(platform.keyboardLayout);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
+    FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
+    FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
 
 private:
     template <typename Fake, typename Seam>
