@@ -45,14 +45,18 @@ QString statusIconResource(MenuBarIconStyle style) {
 
 AppDelegate::AppDelegate(Platform platform)
     : m_platform(withLegacyPreferences(std::move(platform))),
-      m_settings(*m_platform.defaults, *m_platform.scheduler), m_presets(*m_platform.scheduler),
+      m_settings(*m_platform.defaults, *m_platform.scheduler),
+      m_shortcuts(*m_platform.defaults, *m_platform.hotKeys, *m_platform.keyboardLayout),
+      m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
-      m_statusMenu(*m_platform.statusItem) {}
+      m_statusMenu(*m_platform.statusItem),
+      m_paletteExporter(*m_platform.scheduler, *m_platform.filePanels, *m_platform.alerts) {}
 
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
+    registerShortcuts();
     connect(m_platform.statusItem.get(), &StatusItem::clicked, this,
             &AppDelegate::statusItemClicked);
     updateStatusIcon();
@@ -64,10 +68,26 @@ void AppDelegate::applicationDidFinishLaunching() {
             &StatusMenu::show);
     connect(&m_statusMenu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
     connect(&m_statusMenu, &StatusMenu::quitClicked, this, &AppDelegate::quitRequested);
-    m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay,
-                                                [this] { static_cast<void>(paletteStore()); });
+    connect(&m_settings, &AppSettings::iCloudSyncEnabledDidChange, this, &AppDelegate::setSyncing);
+    m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay, [this] { loadPalettes(); });
     if (UpdateService::automaticallyChecksForUpdates(*m_platform.defaults))
         updateService();
+}
+
+void AppDelegate::registerShortcuts() {
+    m_shortcuts.onKeyUp(shortcutNames::pickColor, [this] { pickShortcutReleased(); });
+    m_shortcuts.onKeyUp(shortcutNames::checkContrast, [this] {
+        m_statusMenu.close();
+        openContrast();
+    });
+    m_shortcuts.onKeyUp(shortcutNames::palettes, [this] {
+        m_statusMenu.close();
+        openPalettes();
+    });
+    m_shortcuts.onKeyUp(shortcutNames::convert, [this] {
+        m_statusMenu.close();
+        openColorPicker();
+    });
 }
 
 void AppDelegate::applicationWillTerminate() {
@@ -78,6 +98,11 @@ void AppDelegate::applicationWillTerminate() {
         m_paletteStore->flushPendingSave();
     if (m_settings.hasPendingPins())
         m_settings.flushPendingPins();
+    // What has just been saved goes out with the rest.
+    if (m_syncEngine) {
+        m_syncEngine->flushPendingPushes();
+        m_platform.cloudStore->close();
+    }
     // Qt may wait for a clipboard manager that is slow to take the text over; nothing of the
     // program should be seen meanwhile.
     m_platform.statusItem->setIcon(QIcon());
@@ -97,6 +122,35 @@ UserPaletteStore& AppDelegate::paletteStore() {
     return *m_paletteStore;
 }
 
+/// Sync needs the palettes, so it starts with them and not before the icon is up.
+void AppDelegate::loadPalettes() {
+    static_cast<void>(paletteStore());
+    if (m_settings.iCloudSyncEnabled())
+        setSyncing(true);
+}
+
+CloudSyncEngine& AppDelegate::syncEngine() {
+    if (!m_syncEngine)
+        m_syncEngine = std::make_unique<CloudSyncEngine>(
+            CloudSyncEngine::Surroundings{*m_platform.cloudStore, *m_platform.defaults,
+                                          *m_platform.scheduler, m_settings, paletteStore()});
+    return *m_syncEngine;
+}
+
+void AppDelegate::setSyncing(bool enabled) {
+    if (enabled)
+        syncEngine().start();
+    else if (m_syncEngine)
+        m_syncEngine->stop();
+}
+
+void AppDelegate::syncAccountDidChange() {
+    if (m_syncEngine && m_syncEngine->isStarted()) {
+        m_syncEngine->stop();
+        m_syncEngine->start();
+    }
+}
+
 void AppDelegate::statusItemClicked(const StatusItemClick& click) {
     // Some panels keep the right click to themselves, so the middle one picks as well.
     const bool isQuickPick =
@@ -109,6 +163,15 @@ void AppDelegate::statusItemClicked(const StatusItemClick& click) {
 
 void AppDelegate::pickColorClicked() {
     m_pickAfterMenu = m_platform.scheduler->after(menuFadeDelay, [this] { startPick(); });
+}
+
+void AppDelegate::pickShortcutReleased() {
+    if (!m_statusMenu.isOpen()) {
+        startPick();
+        return;
+    }
+    m_statusMenu.close();
+    pickColorClicked();
 }
 
 void AppDelegate::startPick() {

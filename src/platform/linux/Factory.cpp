@@ -2,19 +2,25 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Factory.h"
 
+#include "platform/linux/CloudFactory.h"
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
+#include "platform/linux/NullHotKeyRegistrar.h"
 #include "platform/linux/NullScreenSampler.h"
 #include "platform/linux/PortalAppearance.h"
+#include "platform/linux/QtAlerts.h"
+#include "platform/linux/QtFilePanels.h"
 #include "platform/linux/QtPasteboard.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
 #include "platform/linux/SqliteDefaults.h"
 #include "platform/linux/TrayStatusItem.h"
 #include "platform/linux/X11Compositing.h"
+#include "platform/linux/X11HotKeyRegistrar.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "platform/linux/X11ScreenSampler.h"
+#include "platform/linux/XkbKeyboardLayout.h"
 
 #include <QGuiApplication>
 
@@ -40,6 +46,12 @@ std::unique_ptr<Pasteboard> makePasteboard() {
     return std::make_unique<QtPasteboard>();
 }
 
+std::unique_ptr<HotKeyRegistrar> makeHotKeys() {
+    if (isX11())
+        return std::make_unique<X11HotKeyRegistrar>();
+    return std::make_unique<NullHotKeyRegistrar>();
+}
+
 } // namespace
 
 Platform makePlatform() {
@@ -51,10 +63,16 @@ Platform makePlatform() {
     platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
+    platform.hotKeys = makeHotKeys();
+    platform.keyboardLayout = std::make_unique<XkbKeyboardLayout>();
     platform.soundPlayer = std::make_unique<SoundProcess>(
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
+    platform.cloudStore = makeCloudStore(*platform.defaults, *platform.scheduler);
+    platform.cloudAccounts = makeCloudAccounts();
+    platform.filePanels = std::make_unique<QtFilePanels>();
+    platform.alerts = std::make_unique<QtAlerts>();
     return platform;
 }
 

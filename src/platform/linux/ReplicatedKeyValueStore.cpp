@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/ReplicatedKeyValueStore.h"
 
+#include "platform/linux/replica/BackgroundCheck.h"
+
 #include <QEventLoop>
 #include <QStandardPaths>
 #include <QTimer>
@@ -48,8 +50,7 @@ void ReplicatedKeyValueStore::open(ConflictRule rule) {
     m_rule = std::move(rule);
     m_transport = m_means.transport(CloudAccount::read(m_defaults));
     if (!m_transport) {
-        //: The part of the program that goes online isn't installed.
-        setTrouble(m_transportTrouble, tr("A part of Dropshade that sync needs is missing."));
+        setTrouble(m_transportTrouble, missingPartWords());
         return;
     }
     connectTransport();
