@@ -7,6 +7,7 @@
 #include "platform/DesktopAppearance.h"
 #include "platform/FeedFetcher.h"
 #include "platform/FilePanels.h"
+#include "platform/LoginItem.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
@@ -31,6 +32,7 @@ struct Platform {
     std::unique_ptr<FeedFetcher> feedFetcher;
     std::unique_ptr<FilePanels> filePanels;
     std::unique_ptr<Alerts> alerts;
+    std::unique_ptr<LoginItem> loginItem;
 };
 
 } // namespace dropshade

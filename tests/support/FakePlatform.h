@@ -8,6 +8,7 @@
 #include "support/FakeApplicationInstance.h"
 #include "support/FakeFeedFetcher.h"
 #include "support/FakeFilePanels.h"
+#include "support/FakeLoginItem.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
@@ -31,6 +32,7 @@ struct FakePlatform {
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
     FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
     FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
+    FakeLoginItem& loginItem = put<FakeLoginItem>(platform.loginItem);
 
 private:
     template <typename Fake, typename Seam>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Factory.h"
 
+#include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
@@ -59,6 +60,7 @@ Platform makePlatform() {
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
     platform.filePanels = std::make_unique<QtFilePanels>();
     platform.alerts = std::make_unique<QtAlerts>();
+    platform.loginItem = std::make_unique<AutostartLoginItem>(AutostartLoginItem::ofSession());
     return platform;
 }
 
