@@ -11,6 +11,7 @@
 #include "color/ColorFormat.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
+#include "widgets/Look.h"
 
 #include <QObject>
 
@@ -64,6 +65,9 @@ public:
     /// Loaded at the first call, or soon after the launch.
     [[nodiscard]] UserPaletteStore& paletteStore();
 
+    /// The look of every window and menu; made at the first call.
+    [[nodiscard]] const Look& look();
+
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
 
@@ -80,6 +84,7 @@ private:
 
     Platform m_platform;
     AppSettings m_settings;
+    std::unique_ptr<Look> m_look;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;
     ColorPickerService m_colorPickerService;
