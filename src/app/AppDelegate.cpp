@@ -48,7 +48,8 @@ AppDelegate::AppDelegate(Platform platform)
       m_settings(*m_platform.defaults, *m_platform.scheduler), m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
-      m_statusMenu(*m_platform.statusItem) {}
+      m_statusMenu(*m_platform.statusItem),
+      m_paletteExporter(*m_platform.scheduler, *m_platform.filePanels, *m_platform.alerts) {}
 
 AppDelegate::~AppDelegate() = default;
 

@@ -9,12 +9,15 @@
 #include "app/UpdateDialogs.h"
 #include "app/UpdateService.h"
 #include "color/ColorFormat.h"
+#include "interchange/PaletteExporter.h"
+#include "interchange/PaletteImporter.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
 #include "widgets/Look.h"
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -47,6 +50,11 @@ public:
     void openNewPaletteFromImage();
     /// Brings up the palettes, then the panel that asks for a file.
     void openNewPaletteFromFile();
+    /// Brings up the palettes and puts the file's palette in front of them, or tells why not.
+    void importPalette(const QString& path);
+    /// The same for what a drop brings: see `PaletteImporter::decode`.
+    void importPalette(const QByteArray& data, const QString& fileExtension,
+                       const std::optional<QString>& suggestedName);
     /// Brings up the palettes, then the choice of presets.
     void openNewPaletteFromPreset();
     void openSettings();
@@ -68,6 +76,8 @@ public:
     /// The look of every window and menu; made at the first call.
     [[nodiscard]] const Look& look();
 
+    PaletteExporter& paletteExporter() { return m_paletteExporter; }
+
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
 
@@ -81,6 +91,7 @@ private:
     void updateStatusIcon();
     void finishPick(const std::optional<SRGBColor>& color);
     void countCopy();
+    void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
 
     Platform m_platform;
     AppSettings m_settings;
@@ -90,6 +101,7 @@ private:
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
     StatusMenu m_statusMenu;
+    PaletteExporter m_paletteExporter;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
     std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;

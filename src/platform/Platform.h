@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Alerts.h"
 #include "platform/ApplicationInstance.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/FeedFetcher.h"
+#include "platform/FilePanels.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
@@ -27,6 +29,8 @@ struct Platform {
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<SoundPlayer> soundPlayer;
     std::unique_ptr<FeedFetcher> feedFetcher;
+    std::unique_ptr<FilePanels> filePanels;
+    std::unique_ptr<Alerts> alerts;
 };
 
 } // namespace dropshade

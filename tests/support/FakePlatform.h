@@ -3,9 +3,11 @@
 #pragma once
 
 #include "platform/Platform.h"
+#include "support/FakeAlerts.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeApplicationInstance.h"
 #include "support/FakeFeedFetcher.h"
+#include "support/FakeFilePanels.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
@@ -27,6 +29,8 @@ struct FakePlatform {
     FakeStatusItem& statusItem = put<FakeStatusItem>(platform.statusItem);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
+    FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
+    FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
 
 private:
     template <typename Fake, typename Seam>

@@ -7,6 +7,8 @@
 #include "platform/linux/LazyFeedFetcher.h"
 #include "platform/linux/NullScreenSampler.h"
 #include "platform/linux/PortalAppearance.h"
+#include "platform/linux/QtAlerts.h"
+#include "platform/linux/QtFilePanels.h"
 #include "platform/linux/QtPasteboard.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
@@ -55,6 +57,8 @@ Platform makePlatform() {
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
+    platform.filePanels = std::make_unique<QtFilePanels>();
+    platform.alerts = std::make_unique<QtAlerts>();
     return platform;
 }
 
