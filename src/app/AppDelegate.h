@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "app/AppSettings.h"
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
@@ -70,6 +71,8 @@ public:
 
     [[nodiscard]] AppSettings& settings() { return m_settings; }
 
+    [[nodiscard]] KeyboardShortcuts& shortcuts() { return m_shortcuts; }
+
     /// Loaded at the first call, or soon after the launch.
     [[nodiscard]] UserPaletteStore& paletteStore();
 
@@ -86,8 +89,10 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
+    void pickShortcutReleased();
     void updateStatusIcon();
     void finishPick(const std::optional<SRGBColor>& color);
     void countCopy();
@@ -96,6 +101,7 @@ private:
     Platform m_platform;
     AppSettings m_settings;
     std::unique_ptr<Look> m_look;
+    KeyboardShortcuts m_shortcuts;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;
     ColorPickerService m_colorPickerService;
