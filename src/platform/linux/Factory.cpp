@@ -6,6 +6,7 @@
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
+#include "platform/linux/NullHotKeyRegistrar.h"
 #include "platform/linux/NullScreenSampler.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/QtAlerts.h"
@@ -16,8 +17,10 @@
 #include "platform/linux/SqliteDefaults.h"
 #include "platform/linux/TrayStatusItem.h"
 #include "platform/linux/X11Compositing.h"
+#include "platform/linux/X11HotKeyRegistrar.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "platform/linux/X11ScreenSampler.h"
+#include "platform/linux/XkbKeyboardLayout.h"
 
 #include <QGuiApplication>
 
@@ -43,6 +46,12 @@ std::unique_ptr<Pasteboard> makePasteboard() {
     return std::make_unique<QtPasteboard>();
 }
 
+std::unique_ptr<HotKeyRegistrar> makeHotKeys() {
+    if (isX11())
+        return std::make_unique<X11HotKeyRegistrar>();
+    return std::make_unique<NullHotKeyRegistrar>();
+}
+
 } // namespace
 
 Platform makePlatform() {
@@ -54,6 +63,8 @@ Platform makePlatform() {
     platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
+    platform.hotKeys = makeHotKeys();
+    platform.keyboardLayout = std::make_unique<XkbKeyboardLayout>();
     platform.soundPlayer = std::make_unique<SoundProcess>(
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
