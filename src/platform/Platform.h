@@ -7,6 +7,8 @@
 #include "platform/DesktopAppearance.h"
 #include "platform/FeedFetcher.h"
 #include "platform/FilePanels.h"
+#include "platform/HotKeyRegistrar.h"
+#include "platform/KeyboardLayout.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
@@ -27,6 +29,8 @@ struct Platform {
     std::unique_ptr<DesktopAppearance> appearance;
     std::unique_ptr<ScreenSampler> screenSampler;
     std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<HotKeyRegistrar> hotKeys;
+    std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<SoundPlayer> soundPlayer;
     std::unique_ptr<FeedFetcher> feedFetcher;
     std::unique_ptr<FilePanels> filePanels;

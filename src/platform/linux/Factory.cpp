@@ -5,6 +5,7 @@
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
+#include "platform/linux/NullHotKeyRegistrar.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalScreenSampler.h"
 #include "platform/linux/QtAlerts.h"
@@ -15,8 +16,10 @@
 #include "platform/linux/TrayStatusItem.h"
 #include "platform/linux/WaylandPasteboard.h"
 #include "platform/linux/X11Compositing.h"
+#include "platform/linux/X11HotKeyRegistrar.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "platform/linux/X11ScreenSampler.h"
+#include "platform/linux/XkbKeyboardLayout.h"
 
 #include <QGuiApplication>
 
@@ -42,6 +45,12 @@ std::unique_ptr<Pasteboard> makePasteboard() {
     return std::make_unique<WaylandPasteboard>();
 }
 
+std::unique_ptr<HotKeyRegistrar> makeHotKeys() {
+    if (isX11())
+        return std::make_unique<X11HotKeyRegistrar>();
+    return std::make_unique<NullHotKeyRegistrar>();
+}
+
 } // namespace
 
 Platform makePlatform() {
@@ -53,6 +62,8 @@ Platform makePlatform() {
     platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
+    platform.hotKeys = makeHotKeys();
+    platform.keyboardLayout = std::make_unique<XkbKeyboardLayout>();
     platform.soundPlayer = std::make_unique<SoundProcess>(
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
