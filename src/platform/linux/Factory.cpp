@@ -7,15 +7,15 @@
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
 #include "platform/linux/NullHotKeyRegistrar.h"
-#include "platform/linux/NullScreenSampler.h"
 #include "platform/linux/PortalAppearance.h"
+#include "platform/linux/PortalScreenSampler.h"
 #include "platform/linux/QtAlerts.h"
 #include "platform/linux/QtFilePanels.h"
-#include "platform/linux/QtPasteboard.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
 #include "platform/linux/SqliteDefaults.h"
 #include "platform/linux/TrayStatusItem.h"
+#include "platform/linux/WaylandPasteboard.h"
 #include "platform/linux/X11Compositing.h"
 #include "platform/linux/X11HotKeyRegistrar.h"
 #include "platform/linux/X11Pasteboard.h"
@@ -34,7 +34,7 @@ bool isX11() {
 
 std::unique_ptr<ScreenSampler> makeSampler(const DesktopAppearance& appearance) {
     if (!isX11())
-        return std::make_unique<NullScreenSampler>();
+        return std::make_unique<PortalScreenSampler>();
     return std::make_unique<X11ScreenSampler>([&appearance] {
         return Theme::of(appearance.isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light);
     });
@@ -43,7 +43,7 @@ std::unique_ptr<ScreenSampler> makeSampler(const DesktopAppearance& appearance) 
 std::unique_ptr<Pasteboard> makePasteboard() {
     if (isX11())
         return std::make_unique<X11Pasteboard>();
-    return std::make_unique<QtPasteboard>();
+    return std::make_unique<WaylandPasteboard>();
 }
 
 std::unique_ptr<HotKeyRegistrar> makeHotKeys() {
