@@ -198,6 +198,12 @@ void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> f
     m_soundService.play();
 }
 
+const Look& AppDelegate::look() {
+    if (!m_look)
+        m_look = std::make_unique<Look>(*m_platform.appearance);
+    return *m_look;
+}
+
 UpdateService& AppDelegate::updateService() {
     if (!m_updateService) {
         m_updateDialogs = std::make_unique<UpdateDialogs>();

@@ -15,6 +15,7 @@
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
 #include "sync/CloudSyncEngine.h"
+#include "widgets/Look.h"
 
 #include <QObject>
 
@@ -76,6 +77,9 @@ public:
     /// Loaded at the first call, or soon after the launch.
     [[nodiscard]] UserPaletteStore& paletteStore();
 
+    /// The look of every window and menu; made at the first call.
+    [[nodiscard]] const Look& look();
+
     PaletteExporter& paletteExporter() { return m_paletteExporter; }
 
     /// Comes into being at the first call; started where the settings say so.
@@ -108,6 +112,7 @@ private:
 
     Platform m_platform;
     AppSettings m_settings;
+    std::unique_ptr<Look> m_look;
     KeyboardShortcuts m_shortcuts;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;

@@ -11,6 +11,7 @@
 #include "platform/FilePanels.h"
 #include "platform/HotKeyRegistrar.h"
 #include "platform/KeyboardLayout.h"
+#include "platform/LoginItem.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
@@ -39,6 +40,7 @@ struct Platform {
     std::unique_ptr<CloudAccounts> cloudAccounts;
     std::unique_ptr<FilePanels> filePanels;
     std::unique_ptr<Alerts> alerts;
+    std::unique_ptr<LoginItem> loginItem;
 };
 
 } // namespace dropshade

@@ -11,6 +11,7 @@
 #include "support/FakeFilePanels.h"
 #include "support/FakeHotKeyRegistrar.h"
 #include "support/FakeKeyboardLayout.h"
+#include "support/FakeLoginItem.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
@@ -39,6 +40,7 @@ struct FakePlatform {
     FakeCloudAccounts& cloudAccounts = put<FakeCloudAccounts>(platform.cloudAccounts);
     FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
     FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
+    FakeLoginItem& loginItem = put<FakeLoginItem>(platform.loginItem);
 
 private:
     template <typename Fake, typename Seam>
