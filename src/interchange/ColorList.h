@@ -1,0 +1,48 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "color/SRGBColor.h"
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+#include <optional>
+
+namespace dropshade {
+
+/// A named list of colours by key, as the colour panels of other desktops keep it. Keys stay in the
+/// order in which they came; none occurs twice.
+class ColorList {
+public:
+    explicit ColorList(const QString& name) : m_name(name) {}
+
+    /// The list in a file, binary or XML archive by keys or typed stream; nothing for a file that
+    /// can't be read as one. The file doesn't hold the list's name.
+    [[nodiscard]] static std::optional<ColorList> load(const QString& name, const QString& path);
+    /// The same from the bytes of the file. Takes time and memory in proportion to them.
+    [[nodiscard]] static std::optional<ColorList> read(const QString& name,
+                                                       const QByteArray& bytes);
+
+    /// Writes a binary archive by keys, whole or not at all; tells whether it did.
+    [[nodiscard]] bool write(const QString& path) const;
+    /// The bytes of that file.
+    [[nodiscard]] QByteArray bytes() const;
+
+    [[nodiscard]] const QString& name() const { return m_name; }
+    /// In list order.
+    [[nodiscard]] const QList<QString>& allKeys() const { return m_keys; }
+    /// Nothing for a key that isn't in the list or whose colour couldn't be told.
+    [[nodiscard]] std::optional<SRGBColor> colorWithKey(const QString& key) const;
+
+    /// At the end if the key is new. A colour that can't be told leaves the key without one.
+    void setColor(const std::optional<SRGBColor>& color, const QString& key);
+
+private:
+    QString m_name;
+    QList<QString> m_keys;
+    QHash<QString, std::optional<SRGBColor>> m_colors;
+};
+
+} // namespace dropshade
