@@ -89,6 +89,8 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    [[nodiscard]] StatusMenu::Sources menuSources();
+    void connectMenu();
     void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
@@ -96,6 +98,9 @@ private:
     void updateStatusIcon();
     void finishPick(const std::optional<SRGBColor>& color);
     void countCopy();
+    /// Copies a colour that the menu keeps: it counts for nothing and is no newer for it.
+    void copyRemembered(const SRGBColor& color);
+    void putOnPasteboard(const SRGBColor& color, ColorFormat format);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
 
     Platform m_platform;
