@@ -9,6 +9,7 @@
 #include "platform/FilePanels.h"
 #include "platform/HotKeyRegistrar.h"
 #include "platform/KeyboardLayout.h"
+#include "platform/LoginItem.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
@@ -35,6 +36,7 @@ struct Platform {
     std::unique_ptr<FeedFetcher> feedFetcher;
     std::unique_ptr<FilePanels> filePanels;
     std::unique_ptr<Alerts> alerts;
+    std::unique_ptr<LoginItem> loginItem;
 };
 
 } // namespace dropshade

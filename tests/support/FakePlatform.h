@@ -10,6 +10,7 @@
 #include "support/FakeFilePanels.h"
 #include "support/FakeHotKeyRegistrar.h"
 #include "support/FakeKeyboardLayout.h"
+#include "support/FakeLoginItem.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
@@ -35,6 +36,7 @@ struct FakePlatform {
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
     FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
     FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
+    FakeLoginItem& loginItem = put<FakeLoginItem>(platform.loginItem);
 
 private:
     template <typename Fake, typename Seam>

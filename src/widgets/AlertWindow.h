@@ -26,21 +26,21 @@ struct AlertText {
 /// A question over its host window, or in the middle of the screen where it has none. The host
 /// waits. Enter presses the button that has the keyboard, Escape cancels. It deletes itself after
 /// its answer, and cancels itself where the host goes.
-class Alert : public Surface {
+class AlertWindow : public Surface {
     Q_OBJECT
 
 public:
     using Answer = std::function<void(bool confirmed)>;
 
-    static Alert* ask(const Look& look, QWidget* host, const AlertText& text, Answer answer);
-    ~Alert() override;
+    static AlertWindow* ask(const Look& look, QWidget* host, const AlertText& text, Answer answer);
+    ~AlertWindow() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    Alert(const Look& look, QWidget* host, const AlertText& text, Answer answer);
+    AlertWindow(const Look& look, QWidget* host, const AlertText& text, Answer answer);
 
     void build(const AlertText& text);
     [[nodiscard]] QWidget* makeSign(const AlertText& text);

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
-#include "widgets/Alert.h"
+#include "widgets/AlertWindow.h"
 
 #include "support/FakeAppearance.h"
 #include "widgets/Sheet.h"
@@ -14,7 +14,7 @@
 namespace dropshade {
 namespace {
 
-class AlertTest : public testing::Test {
+class AlertWindowTest : public testing::Test {
 protected:
     FakeAppearance m_appearance;
     Look m_look{m_appearance};
@@ -22,14 +22,15 @@ protected:
 
     void SetUp() override { m_appearance.setReducedMotion(true); }
 
-    Alert* ask(bool isDestructive, QWidget* host = nullptr) {
+    AlertWindow* ask(bool isDestructive, QWidget* host = nullptr) {
         const AlertText text{QStringLiteral("Delete?"),
                              QStringLiteral("It goes."),
                              QStringLiteral("Delete"),
                              QStringLiteral("Cancel"),
                              isDestructive,
                              std::nullopt};
-        Alert* alert = Alert::ask(m_look, host, text, [this](bool yes) { m_answers.append(yes); });
+        AlertWindow* alert =
+            AlertWindow::ask(m_look, host, text, [this](bool yes) { m_answers.append(yes); });
         alert->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(alert));
         return alert;
@@ -44,29 +45,29 @@ protected:
     }
 };
 
-TEST_F(AlertTest, AnswersOnceWithTheButtonThatWasClicked) {
-    Alert* alert = ask(true);
+TEST_F(AlertWindowTest, AnswersOnceWithTheButtonThatWasClicked) {
+    AlertWindow* alert = ask(true);
     QTest::mouseClick(button(alert, QStringLiteral("Delete")), Qt::LeftButton);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(m_answers, QList<bool>{true});
 }
 
-TEST_F(AlertTest, EscapeCancels) {
+TEST_F(AlertWindowTest, EscapeCancels) {
     QTest::keyClick(ask(true), Qt::Key_Escape);
     EXPECT_EQ(m_answers, QList<bool>{false});
 }
 
-TEST_F(AlertTest, EnterDoesNotDestroy) {
+TEST_F(AlertWindowTest, EnterDoesNotDestroy) {
     QTest::keyClick(ask(true), Qt::Key_Return);
     EXPECT_EQ(m_answers, QList<bool>{false});
 }
 
-TEST_F(AlertTest, EnterConfirmsWhatHarmsNothing) {
+TEST_F(AlertWindowTest, EnterConfirmsWhatHarmsNothing) {
     QTest::keyClick(ask(false), Qt::Key_Return);
     EXPECT_EQ(m_answers, QList<bool>{true});
 }
 
-TEST_F(AlertTest, AnswersNoWhenItsHostGoes) {
+TEST_F(AlertWindowTest, AnswersNoWhenItsHostGoes) {
     auto host = std::make_unique<QWidget>();
     host->show();
     ask(true, host.get());
@@ -74,7 +75,7 @@ TEST_F(AlertTest, AnswersNoWhenItsHostGoes) {
     EXPECT_EQ(m_answers, QList<bool>{false});
 }
 
-TEST_F(AlertTest, ASheetKeepsTheKeyboardInside) {
+TEST_F(AlertWindowTest, ASheetKeepsTheKeyboardInside) {
     QWidget host;
     host.resize(500, 400);
     TextButton outside(m_look, TextButton::Kind::Plain, QStringLiteral("Outside"), &host);

@@ -1,6 +1,6 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
-#include "widgets/Alert.h"
+#include "widgets/AlertWindow.h"
 
 #include "widgets/ColorWell.h"
 #include "widgets/Icon.h"
@@ -30,8 +30,9 @@ constexpr auto alertFlags = Qt::Dialog | Qt::WindowStaysOnTopHint;
 
 } // namespace
 
-Alert* Alert::ask(const Look& look, QWidget* host, const AlertText& text, Answer answer) {
-    auto* alert = new Alert(look, host, text, std::move(answer));
+AlertWindow* AlertWindow::ask(const Look& look, QWidget* host, const AlertText& text,
+                              Answer answer) {
+    auto* alert = new AlertWindow(look, host, text, std::move(answer));
     alert->place(host);
     alert->fadeIn(metrics::popoverIn);
     alert->raise();
@@ -40,7 +41,7 @@ Alert* Alert::ask(const Look& look, QWidget* host, const AlertText& text, Answer
     return alert;
 }
 
-Alert::Alert(const Look& look, QWidget* host, const AlertText& text, Answer answer)
+AlertWindow::AlertWindow(const Look& look, QWidget* host, const AlertText& text, Answer answer)
     : Surface(look, host ? host->window() : nullptr, alertFlags), m_answer(std::move(answer)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(host ? Qt::WindowModal : Qt::NonModal);
@@ -50,12 +51,12 @@ Alert::Alert(const Look& look, QWidget* host, const AlertText& text, Answer answ
     build(text);
 }
 
-Alert::~Alert() {
+AlertWindow::~AlertWindow() {
     // With its host; whoever asked still gets an answer.
     finish(false);
 }
 
-void Alert::build(const AlertText& text) {
+void AlertWindow::build(const AlertText& text) {
     content()->setFixedWidth(metrics::alertWidth);
     auto* column = new QVBoxLayout(content());
     column->setContentsMargins(padding, padding, padding, padding);
@@ -77,7 +78,7 @@ void Alert::build(const AlertText& text) {
     column->addWidget(makeButtons(text));
 }
 
-QWidget* Alert::makeSign(const AlertText& text) {
+QWidget* AlertWindow::makeSign(const AlertText& text) {
     if (text.color) {
         auto* well = new ColorWell(look(), QString(), colorSide);
         well->setColor(text.color);
@@ -93,7 +94,7 @@ QWidget* Alert::makeSign(const AlertText& text) {
     return sign;
 }
 
-QWidget* Alert::makeButtons(const AlertText& text) {
+QWidget* AlertWindow::makeButtons(const AlertText& text) {
     auto* bar = new QWidget;
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
@@ -118,7 +119,7 @@ QWidget* Alert::makeButtons(const AlertText& text) {
     return bar;
 }
 
-void Alert::place(QWidget* host) {
+void AlertWindow::place(QWidget* host) {
     fit();
     const QRect area = host ? host->window()->frameGeometry()
                             : QGuiApplication::primaryScreen()->availableGeometry();
@@ -134,7 +135,7 @@ void Alert::place(QWidget* host) {
     move(corner);
 }
 
-void Alert::keyPressEvent(QKeyEvent* event) {
+void AlertWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
         close();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
@@ -145,12 +146,12 @@ void Alert::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void Alert::closeEvent(QCloseEvent* event) {
+void AlertWindow::closeEvent(QCloseEvent* event) {
     finish(false);
     event->accept();
 }
 
-void Alert::finish(bool confirmed) {
+void AlertWindow::finish(bool confirmed) {
     if (const Answer answer = std::exchange(m_answer, nullptr))
         answer(confirmed);
 }
