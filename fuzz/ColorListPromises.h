@@ -18,7 +18,7 @@ inline void checkColorList(const QByteArray& bytes) {
     const auto list = ColorList::read(QString(), bytes);
     if (!list)
         return;
-    const Palette palette = CLRCoder::decode(*list, ReferenceTime{});
+    const Palette palette = CLRCoder::paletteOf(*list, ReferenceTime{});
     qsizetype colors = 0;
     ColorList known(QString{});
     for (const QString& key : list->allKeys()) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "app/AppSettings.h"
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
@@ -9,11 +10,16 @@
 #include "app/UpdateDialogs.h"
 #include "app/UpdateService.h"
 #include "color/ColorFormat.h"
+#include "interchange/PaletteExporter.h"
+#include "interchange/PaletteImporter.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
+#include "sync/CloudSyncEngine.h"
+#include "widgets/Look.h"
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -46,6 +52,11 @@ public:
     void openNewPaletteFromImage();
     /// Brings up the palettes, then the panel that asks for a file.
     void openNewPaletteFromFile();
+    /// Brings up the palettes and puts the file's palette in front of them, or tells why not.
+    void importPalette(const QString& path);
+    /// The same for what a drop brings: see `PaletteImporter::decode`.
+    void importPalette(const QByteArray& data, const QString& fileExtension,
+                       const std::optional<QString>& suggestedName);
     /// Brings up the palettes, then the choice of presets.
     void openNewPaletteFromPreset();
     void openSettings();
@@ -61,8 +72,24 @@ public:
 
     [[nodiscard]] AppSettings& settings() { return m_settings; }
 
+    [[nodiscard]] KeyboardShortcuts& shortcuts() { return m_shortcuts; }
+
     /// Loaded at the first call, or soon after the launch.
     [[nodiscard]] UserPaletteStore& paletteStore();
+
+    /// The look of every window and menu; made at the first call.
+    [[nodiscard]] const Look& look();
+
+    PaletteExporter& paletteExporter() { return m_paletteExporter; }
+
+    /// Comes into being at the first call; started where the settings say so.
+    CloudSyncEngine& syncEngine();
+
+    /// The settings have another account, or another password of it, for sync to use from now on.
+    void syncAccountDidChange();
+
+    /// What a window needs to set up that account.
+    CloudAccounts& cloudAccounts() { return *m_platform.cloudAccounts; }
 
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
@@ -72,19 +99,33 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    [[nodiscard]] StatusMenu::Sources menuSources();
+    void connectMenu();
+    void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
+    void pickShortcutReleased();
     void updateStatusIcon();
+    void loadPalettes();
+    void setSyncing(bool enabled);
     void finishPick(const std::optional<SRGBColor>& color);
     void countCopy();
+    /// Copies a colour that the menu keeps: it counts for nothing and is no newer for it.
+    void copyRemembered(const SRGBColor& color);
+    void putOnPasteboard(const SRGBColor& color, ColorFormat format);
+    void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
 
     Platform m_platform;
     AppSettings m_settings;
+    std::unique_ptr<Look> m_look;
+    KeyboardShortcuts m_shortcuts;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;
+    std::unique_ptr<CloudSyncEngine> m_syncEngine;
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
     StatusMenu m_statusMenu;
+    PaletteExporter m_paletteExporter;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
     std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;

@@ -18,6 +18,35 @@ void AppDelegate::openNewPaletteFromImage() {
 
 void AppDelegate::openNewPaletteFromFile() {
     openPalettes();
+    m_platform.filePanels->open(
+        tr("New Palette from File", "Title of the panel that asks for a palette file"),
+        {tr("Palettes", "Kind of file in a panel"),
+         {QStringLiteral("ase"), QStringLiteral("clr"), QStringLiteral("json")}},
+        nullptr, [this](const std::optional<QString>& path) {
+            if (path)
+                importPalette(*path);
+        });
+}
+
+void AppDelegate::importPalette(const QString& path) {
+    importPalette([&path](const PaletteImporter& importer) { return importer.load(path); });
+}
+
+void AppDelegate::importPalette(const QByteArray& data, const QString& fileExtension,
+                                const std::optional<QString>& suggestedName) {
+    importPalette([&](const PaletteImporter& importer) {
+        return importer.decode(data, fileExtension, suggestedName);
+    });
+}
+
+void AppDelegate::importPalette(const std::function<Palette(const PaletteImporter&)>& load) {
+    openPalettes();
+    try {
+        paletteStore().addPalette(load(PaletteImporter(*m_platform.scheduler)));
+    } catch (const PaletteImporterError& error) {
+        m_platform.alerts->warn(tr("Couldn't import palette", "Import error title"),
+                                error.description());
+    }
 }
 
 void AppDelegate::openNewPaletteFromPreset() {

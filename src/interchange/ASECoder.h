@@ -50,8 +50,11 @@ public:
     /// program writes, names are cut to a few characters once they add up to more than the file.
     [[nodiscard]] static Palette decode(const QByteArray& data, ReferenceTime now);
 
-    /// RGB colours in groups, nothing else. A swatch without a label is named by its value. A name
-    /// of more than 65,534 UTF-16 units doesn't fit the format and ends the program.
+    /// Whether the format has room for every name: 65,534 UTF-16 units each.
+    [[nodiscard]] static bool fits(const Palette& palette);
+
+    /// RGB colours in groups, nothing else. A swatch without a label is named by its value. A
+    /// palette that doesn't fit ends the program.
     [[nodiscard]] static QByteArray encode(const Palette& palette);
 };
 

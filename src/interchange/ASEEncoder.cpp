@@ -6,6 +6,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <limits>
@@ -15,6 +16,15 @@ namespace {
 
 constexpr qsizetype mostUnits = std::numeric_limits<std::uint16_t>::max();
 constexpr char rgbModel[] = {'R', 'G', 'B', ' '};
+
+const QString& nameOf(const PaletteSwatch& swatch) {
+    return swatch.label() ? *swatch.label() : swatch.value();
+}
+
+/// With its terminator.
+bool fits(const QString& name) {
+    return name.size() + 1 <= mostUnits;
+}
 
 /// A file in the making. All that counts is known before it is written, so there is one buffer.
 class Encoder {
@@ -38,7 +48,7 @@ private:
 
     /// Of a name with its count and its terminator.
     static std::uint32_t sizeOf(const QString& name) {
-        if (name.size() + 1 > mostUnits)
+        if (!fits(name))
             qFatal("a name of %lld units doesn't fit a swatch-exchange file",
                    static_cast<long long>(name.size()));
         return 2U * std::uint32_t(1 + name.size() + 1);
@@ -55,7 +65,7 @@ private:
     }
 
     void append(const PaletteSwatch& swatch) {
-        const QString& name = swatch.label() ? *swatch.label() : swatch.value();
+        const QString& name = nameOf(swatch);
         append(ase::colorEntry);
         append(std::uint32_t(sizeOf(name) + sizeof rgbModel + 3 * sizeof(float) +
                              sizeof ase::writtenColorType));
@@ -89,6 +99,17 @@ private:
 };
 
 } // namespace
+
+bool ASECoder::fits(const Palette& palette) {
+    const QList<PaletteScale>& scales = palette.scales();
+    return std::all_of(scales.begin(), scales.end(), [](const PaletteScale& scale) {
+        const QList<PaletteSwatch>& swatches = scale.swatches();
+        return dropshade::fits(scale.name()) &&
+               std::all_of(swatches.begin(), swatches.end(), [](const PaletteSwatch& swatch) {
+                   return dropshade::fits(nameOf(swatch));
+               });
+    });
+}
 
 QByteArray ASECoder::encode(const Palette& palette) {
     return Encoder().file(palette);

@@ -6,8 +6,6 @@
 #include "interchange/ImportedNames.h"
 #include "interchange/UniqueNames.h"
 
-#include <QFileInfo>
-
 #include <vector>
 
 namespace dropshade {
@@ -61,22 +59,14 @@ private:
 
 } // namespace
 
-const char* CLRCoderError::what() const noexcept {
-    return m_case == Case::loadFailed ? "the colour list can't be read"
-                                      : "the colour list can't be written";
-}
-
-Palette CLRCoder::decode(const QString& path, ReferenceTime now) {
-    const QFileInfo file(path);
-    // A file named by nothing but its extension is named by that.
-    const QString base = file.completeBaseName();
-    const auto list = ColorList::load(base.isEmpty() ? file.fileName() : base, path);
+Palette CLRCoder::decode(const QByteArray& data, ReferenceTime now) {
+    const auto list = ColorList::read(QString(), data);
     if (!list)
-        throw CLRCoderError(CLRCoderError::Case::loadFailed);
-    return decode(*list, now);
+        throw CLRCoderError();
+    return paletteOf(*list, now);
 }
 
-Palette CLRCoder::decode(const ColorList& list, ReferenceTime now) {
+Palette CLRCoder::paletteOf(const ColorList& list, ReferenceTime now) {
     const QList<QString>& keys = list.allKeys();
     const bool isOfScales = isGrouped(keys);
     Scales scales;
@@ -96,12 +86,11 @@ Palette CLRCoder::decode(const ColorList& list, ReferenceTime now) {
                    now);
 }
 
-void CLRCoder::write(const Palette& palette, const QString& path) {
-    if (!encode(palette).write(path))
-        throw CLRCoderError(CLRCoderError::Case::writeFailed);
+QByteArray CLRCoder::encode(const Palette& palette) {
+    return listOf(palette).bytes();
 }
 
-ColorList CLRCoder::encode(const Palette& palette) {
+ColorList CLRCoder::listOf(const Palette& palette) {
     ColorList list(palette.name().isEmpty() ? ImportedNames::palette() : palette.name());
     UniqueNames keys([](const QString& key, qsizetype number) {
         return key + QStringLiteral(" (%1)").arg(number);

@@ -9,22 +9,10 @@
 
 namespace dropshade {
 
-/// Why a colour list wasn't read or written.
+/// Bytes that are no colour list.
 class CLRCoderError : public std::exception {
 public:
-    enum class Case { loadFailed, writeFailed };
-
-    explicit CLRCoderError(Case which) : m_case(which) {}
-
-    [[nodiscard]] Case which() const { return m_case; }
-    const char* what() const noexcept override;
-
-    friend bool operator==(const CLRCoderError& a, const CLRCoderError& b) {
-        return a.which() == b.which();
-    }
-
-private:
-    Case m_case;
+    const char* what() const noexcept override { return "the colour list can't be read"; }
 };
 
 /// Palettes as colour lists, which are flat: a swatch goes out under the key "Scale / Label". A
@@ -32,16 +20,16 @@ private:
 /// "Colors". Values come in as "#rrggbb", without alpha.
 class CLRCoder {
 public:
-    /// The palette with new ids, named after the file and modified `now`. Throws `CLRCoderError`.
-    [[nodiscard]] static Palette decode(const QString& path, ReferenceTime now);
-    /// The palette of a list that was read already.
-    [[nodiscard]] static Palette decode(const ColorList& list, ReferenceTime now);
+    /// The palette with new ids, modified `now`. The bytes don't hold its name, so it is "Imported
+    /// Palette". Throws `CLRCoderError`.
+    [[nodiscard]] static Palette decode(const QByteArray& data, ReferenceTime now);
+    /// The palette of a list, named as the list is.
+    [[nodiscard]] static Palette paletteOf(const ColorList& list, ReferenceTime now);
 
-    /// Keys that would occur twice are numbered. A scale without swatches leaves no trace. The file
-    /// is written whole or, with a `CLRCoderError`, left as it was.
-    static void write(const Palette& palette, const QString& path);
-    /// The list that is written.
-    [[nodiscard]] static ColorList encode(const Palette& palette);
+    /// The bytes of `listOf`.
+    [[nodiscard]] static QByteArray encode(const Palette& palette);
+    /// Keys that would occur twice are numbered. A scale without swatches leaves no trace.
+    [[nodiscard]] static ColorList listOf(const Palette& palette);
 };
 
 } // namespace dropshade

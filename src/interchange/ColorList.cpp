@@ -5,22 +5,7 @@
 #include "interchange/ArchivedColorList.h"
 #include "interchange/StreamedColorList.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
-
 namespace dropshade {
-
-std::optional<ColorList> ColorList::load(const QString& name, const QString& path) {
-    QFile file(path);
-    // A device or a pipe may never end.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return std::nullopt;
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return std::nullopt;
-    return read(name, bytes);
-}
 
 std::optional<ColorList> ColorList::read(const QString& name, const QByteArray& bytes) {
     return isStreamedColorList(bytes) ? streamedColorList(name, bytes)
@@ -29,13 +14,6 @@ std::optional<ColorList> ColorList::read(const QString& name, const QByteArray& 
 
 QByteArray ColorList::bytes() const {
     return archived(*this);
-}
-
-bool ColorList::write(const QString& path) const {
-    const QByteArray content = bytes();
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
-           file.commit();
 }
 
 std::optional<SRGBColor> ColorList::colorWithKey(const QString& key) const {

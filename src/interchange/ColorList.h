@@ -18,16 +18,12 @@ class ColorList {
 public:
     explicit ColorList(const QString& name) : m_name(name) {}
 
-    /// The list in a file, binary or XML archive by keys or typed stream; nothing for a file that
-    /// can't be read as one. The file doesn't hold the list's name.
-    [[nodiscard]] static std::optional<ColorList> load(const QString& name, const QString& path);
-    /// The same from the bytes of the file. Takes time and memory in proportion to them.
+    /// The list in the bytes of a file, which don't hold its name: a keyed archive, binary or XML,
+    /// or a typed stream. Nothing for any other bytes. Takes time and memory in proportion to them.
     [[nodiscard]] static std::optional<ColorList> read(const QString& name,
                                                        const QByteArray& bytes);
 
-    /// Writes a binary archive by keys, whole or not at all; tells whether it did.
-    [[nodiscard]] bool write(const QString& path) const;
-    /// The bytes of that file.
+    /// The list as a binary keyed archive.
     [[nodiscard]] QByteArray bytes() const;
 
     [[nodiscard]] const QString& name() const { return m_name; }

@@ -3,11 +3,8 @@
 #include "interchange/PaletteJSONCoder.h"
 
 #include "interchange/PrettyJsonWriter.h"
-#include "json/JsonDocument.h"
 
 #include <QStringDecoder>
-
-#include <utility>
 
 namespace dropshade {
 namespace {
@@ -31,48 +28,6 @@ void write(PrettyJsonWriter& json, const PaletteScale& scale) {
         write(json, swatch);
     json.endArray();
     json.endObject();
-}
-
-DecodedSwatch readSwatch(JsonReader& json) {
-    std::optional<QString> value;
-    std::optional<QString> label;
-    json.object([&](std::string_view key) {
-        if (key == "value")
-            value = json.string();
-        else if (key == "label")
-            label = json.null() ? std::nullopt : std::optional(json.string());
-        else
-            json.skip();
-    });
-    return {required(value), std::move(label)};
-}
-
-DecodedScale readScale(JsonReader& json) {
-    std::optional<QString> name;
-    std::optional<QList<DecodedSwatch>> swatches;
-    json.object([&](std::string_view key) {
-        if (key == "name")
-            name = json.string();
-        else if (key == "swatches")
-            json.array([&json, &list = swatches.emplace()] { list.append(readSwatch(json)); });
-        else
-            json.skip();
-    });
-    return {required(name), required(swatches)};
-}
-
-DecodedPreset readPreset(JsonReader& json) {
-    std::optional<QString> name;
-    std::optional<QList<DecodedScale>> scales;
-    json.object([&](std::string_view key) {
-        if (key == "name")
-            name = json.string();
-        else if (key == "scales")
-            json.array([&json, &list = scales.emplace()] { list.append(readScale(json)); });
-        else
-            json.skip();
-    });
-    return {required(name), required(scales)};
 }
 
 /// Editors on other systems save with a byte order mark or in UTF-16.
@@ -113,16 +68,7 @@ DecodedPreset PaletteJSONCoder::decode(const QByteArray& data) {
 }
 
 Palette PaletteJSONCoder::makePalette(const DecodedPreset& decoded, ReferenceTime now) {
-    QList<PaletteScale> scales;
-    scales.reserve(decoded.scales.size());
-    for (const DecodedScale& scale : decoded.scales) {
-        QList<PaletteSwatch> swatches;
-        swatches.reserve(scale.swatches.size());
-        for (const DecodedSwatch& swatch : scale.swatches)
-            swatches.append(PaletteSwatch(swatch.value, swatch.label));
-        scales.append(PaletteScale(scale.name, swatches));
-    }
-    return Palette(decoded.name, scales, now);
+    return decoded.palette(now);
 }
 
 } // namespace dropshade

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "palettes/PalettePresets.h"
 
+#include "palettes/DecodedPreset.h"
 #include "palettes/PresetShadeTable.h"
 #include "json/JsonDocument.h"
 
@@ -36,46 +37,6 @@ Palette built(const QString& name, std::span<const ShadeScale> rows, ReferenceTi
     return Palette(name, scales, now);
 }
 
-PaletteSwatch readSwatch(JsonReader& json) {
-    std::optional<QString> value;
-    std::optional<QString> label;
-    json.object([&](std::string_view key) {
-        if (key == "value")
-            value = json.string();
-        else if (key == "label")
-            label = json.null() ? std::nullopt : std::optional(json.string());
-        else
-            json.skip();
-    });
-    return PaletteSwatch(required(value), std::move(label));
-}
-
-/// An object with a name and, under `itemsKey`, a list.
-template <typename Item, typename Read>
-std::pair<QString, QList<Item>> readNamed(JsonReader& json, std::string_view itemsKey, Read read) {
-    std::optional<QString> name;
-    std::optional<QList<Item>> items;
-    json.object([&](std::string_view key) {
-        if (key == "name")
-            name = json.string();
-        else if (key == itemsKey)
-            json.array([&, &list = items.emplace()] { list.append(read(json)); });
-        else
-            json.skip();
-    });
-    return {required(name), required(items)};
-}
-
-PaletteScale readScale(JsonReader& json) {
-    const auto [name, swatches] = readNamed<PaletteSwatch>(json, "swatches", readSwatch);
-    return PaletteScale(name, swatches);
-}
-
-Palette readPreset(JsonReader& json, ReferenceTime now) {
-    const auto [name, scales] = readNamed<PaletteScale>(json, "scales", readScale);
-    return Palette(name, scales, now);
-}
-
 } // namespace
 
 PalettePresets::PalettePresets(const Scheduler& clock, const QString& resource)
@@ -103,7 +64,7 @@ const QList<Palette>& PalettePresets::loaded() {
         QFile file(m_resource);
         const QByteArray json = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         m_loaded = decodedJsonList(json, [now = m_clock.now()](JsonReader& reader) {
-                       return readPreset(reader, now);
+                       return readPreset(reader).palette(now);
                    }).value_or(QList<Palette>());
     }
     return *m_loaded;

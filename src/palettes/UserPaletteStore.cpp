@@ -4,6 +4,7 @@
 
 #include "app/SettingsReaders.h"
 #include "palettes/PaletteJson.h"
+#include "palettes/PaletteSearch.h"
 #include "json/UuidText.h"
 
 #include <QHash>
@@ -15,22 +16,6 @@ namespace dropshade {
 namespace {
 
 constexpr std::chrono::milliseconds saveDelay{250};
-
-template <typename Item>
-qsizetype indexOf(const QList<Item>& items, const QUuid& id) {
-    const auto found = std::find_if(items.cbegin(), items.cend(),
-                                    [&id](const Item& item) { return item.id() == id; });
-    return found == items.cend() ? -1 : found - items.cbegin();
-}
-
-template <typename Item>
-QList<QUuid> idsOf(const QList<Item>& items) {
-    QList<QUuid> ids;
-    ids.reserve(items.size());
-    for (const Item& item : items)
-        ids.append(item.id());
-    return ids;
-}
 
 /// All of the items in the order of `ids`, or nothing where that leaves one out or has one twice.
 template <typename Item>
@@ -142,7 +127,7 @@ void UserPaletteStore::deletePalette(QUuid id) {
 }
 
 void UserPaletteStore::duplicatePalette(QUuid id) {
-    const qsizetype index = indexOf(m_palettes, id);
+    const qsizetype index = indexOfId(m_palettes, id);
     if (index < 0)
         return;
     Palette copy = m_palettes.at(index).freshCopy(m_scheduler.now());
@@ -196,7 +181,7 @@ std::optional<QUuid> UserPaletteStore::addScale(QUuid paletteId) {
 void UserPaletteStore::duplicateScale(QUuid paletteId, QUuid scaleId) {
     const bool isAdded = editPalette(paletteId, [&scaleId](Palette& palette) {
         QList<PaletteScale> scales = palette.scales();
-        const qsizetype index = indexOf(scales, scaleId);
+        const qsizetype index = indexOfId(scales, scaleId);
         if (index < 0)
             return false;
         PaletteScale copy = scales.at(index).freshCopy();
@@ -235,7 +220,7 @@ void UserPaletteStore::addSwatch(QUuid paletteId, QUuid scaleId, PaletteSwatch s
 void UserPaletteStore::updateSwatch(QUuid paletteId, QUuid scaleId, PaletteSwatch swatch) {
     const bool isUpdated = editScale(paletteId, scaleId, [&swatch](PaletteScale& scale) {
         QList<PaletteSwatch> swatches = scale.swatches();
-        const qsizetype index = indexOf(swatches, swatch.id());
+        const qsizetype index = indexOfId(swatches, swatch.id());
         if (index < 0)
             return false;
         swatches.replace(index, swatch);
@@ -304,14 +289,14 @@ void UserPaletteStore::reorderSwatches(QUuid paletteId, QUuid scaleId, const QLi
 
 void UserPaletteStore::moveSwatch(QUuid paletteId, QUuid fromScaleId, QUuid swatchId,
                                   QUuid toScaleId, qsizetype toIndex) {
-    const qsizetype at = indexOf(m_palettes, paletteId);
+    const qsizetype at = indexOfId(m_palettes, paletteId);
     if (fromScaleId == toScaleId || at < 0)
         return;
     const Palette palette = m_palettes.at(at);
     QList<PaletteScale> scales = palette.scales();
-    const qsizetype from = indexOf(scales, fromScaleId);
-    const qsizetype to = indexOf(scales, toScaleId);
-    const qsizetype place = from < 0 ? -1 : indexOf(scales.at(from).swatches(), swatchId);
+    const qsizetype from = indexOfId(scales, fromScaleId);
+    const qsizetype to = indexOfId(scales, toScaleId);
+    const qsizetype place = from < 0 ? -1 : indexOfId(scales.at(from).swatches(), swatchId);
     if (to < 0 || place < 0)
         return;
     QList<PaletteSwatch> source = scales.at(from).swatches();
@@ -367,12 +352,12 @@ QSet<QUuid> UserPaletteStore::collapsedPaletteIds() const {
 }
 
 void UserPaletteStore::setCollapsed(QUuid id, bool collapsed) {
-    QSet<QUuid> ids = collapsedPaletteIds();
-    if (collapsed)
-        ids.insert(id);
-    else
-        ids.remove(id);
-    storeCollapsedIds(ids);
+    setCollapsed(QSet<QUuid>{id}, collapsed);
+}
+
+void UserPaletteStore::setCollapsed(const QSet<QUuid>& ids, bool collapsed) {
+    const QSet<QUuid> before = collapsedPaletteIds();
+    storeCollapsedIds(collapsed ? before + ids : before - ids);
 }
 
 void UserPaletteStore::storeCollapsedIds(const QSet<QUuid>& ids) {
@@ -386,7 +371,7 @@ void UserPaletteStore::storeCollapsedIds(const QSet<QUuid>& ids) {
 
 /// Edits a copy of the palette; where `edit` says that it has changed, stamps it and puts it in.
 bool UserPaletteStore::editPalette(QUuid id, const PaletteEdit& edit) {
-    const qsizetype index = indexOf(m_palettes, id);
+    const qsizetype index = indexOfId(m_palettes, id);
     if (index < 0)
         return false;
     Palette palette = m_palettes.at(index);
@@ -401,7 +386,7 @@ bool UserPaletteStore::editPalette(QUuid id, const PaletteEdit& edit) {
 bool UserPaletteStore::editScale(QUuid paletteId, QUuid scaleId, const ScaleEdit& edit) {
     return editPalette(paletteId, [&](Palette& palette) {
         QList<PaletteScale> scales = palette.scales();
-        const qsizetype index = indexOf(scales, scaleId);
+        const qsizetype index = indexOfId(scales, scaleId);
         if (index < 0)
             return false;
         PaletteScale scale = scales.at(index);

@@ -88,6 +88,8 @@ public:
     /// The palettes that show their header only; may hold ids of palettes that are gone.
     [[nodiscard]] QSet<QUuid> collapsedPaletteIds() const;
     void setCollapsed(QUuid id, bool collapsed);
+    /// The same for several palettes, in one write.
+    void setCollapsed(const QSet<QUuid>& ids, bool collapsed);
 
 Q_SIGNALS:
     /// `palettes` is another list now.

@@ -1,11 +1,14 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
+#include "app/RecentColor.h"
 #include "app/SettingsReaders.h"
 #include "support/FakePlatform.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -13,6 +16,9 @@ namespace dropshade {
 namespace {
 
 const SRGBColor pink(1.0, 0.0, 128.0 / 255.0, 0.5);
+
+const Shortcut controlC{8, controlKey};
+const FakeHotKeyRegistrar::Combination controlCKeys(8, controlKey);
 
 class AppDelegateTest : public testing::Test {
 protected:
@@ -74,6 +80,78 @@ TEST_F(AppDelegateTest, StartingTheProgramOnceMoreOpensTheMenu) {
 TEST_F(AppDelegateTest, QuickPickSamplesOnceTheMenuHasFadedFromTheScreen) {
     fakes.statusItem.click();
     openMenu()->actions().at(2)->trigger();
+    EXPECT_FALSE(fakes.screenSampler.isUp());
+    fakes.scheduler.advance(std::chrono::milliseconds(100));
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, ARememberedColourIsCopiedWithItsSoundAndCountsForNothing) {
+    delegate.copyColor(pink);
+    delegate.copyColor(SRGBColor(0, 0, 0));
+    const auto recents = loadRecentColors(fakes.defaults);
+    fakes.statusItem.click();
+    fakes.defaults.setFromAnotherProcess(keys::colorFormat, QStringLiteral("hexa"));
+    for (const QAction* action : openMenu()->actions()) {
+        if (QMenu* submenu = QMenu::menuInAction(action))
+            submenu->actions().at(1)->trigger();
+    }
+    EXPECT_EQ(fakes.pasteboard.text(), QStringLiteral("#FF008080"));
+    EXPECT_EQ(copyCount(), 2);
+    EXPECT_EQ(loadRecentColors(fakes.defaults), recents);
+    EXPECT_EQ(fakes.soundPlayer.played().size(), 3);
+}
+
+TEST_F(AppDelegateTest, AFavouriteIsCopiedAndTheRecentColoursCanBeCleared) {
+    const Palette palette = delegate.paletteStore().palettes().first();
+    const PaletteScale& scale = palette.scales().first();
+    delegate.settings().pinSwatch(scale.swatches().first(), palette, scale);
+    delegate.copyColor(pink);
+    fakes.statusItem.click();
+    QList<QMenu*> submenus;
+    for (const QAction* action : openMenu()->actions()) {
+        if (QMenu* submenu = QMenu::menuInAction(action))
+            submenus.append(submenu);
+    }
+    ASSERT_EQ(submenus.size(), 2);
+    submenus[0]->actions().at(1)->trigger();
+    const SRGBColor pinned = delegate.settings().pinnedColors().first().cachedColor();
+    EXPECT_EQ(fakes.pasteboard.text(),
+              QString::fromStdString(formatted(pinned, ColorFormat::hex, {})));
+    EXPECT_EQ(copyCount(), 1);
+    submenus[1]->actions().last()->trigger();
+    EXPECT_TRUE(loadRecentColors(fakes.defaults).isEmpty());
+}
+
+TEST_F(AppDelegateTest, NoShortcutIsBoundUntilTheUserRecordsOne) {
+    EXPECT_TRUE(fakes.hotKeys.combinations().empty());
+}
+
+TEST_F(AppDelegateTest, TheShortcutOfThePickSamplesOnRelease) {
+    delegate.shortcuts().setShortcut(controlC, shortcutNames::pickColor);
+    fakes.hotKeys.press(controlCKeys);
+    fakes.hotKeys.press(controlCKeys);
+    EXPECT_FALSE(fakes.screenSampler.isUp());
+    fakes.hotKeys.release(controlCKeys.first);
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, TheShortcutOfThePickPressedTwiceStartsOneSampler) {
+    delegate.shortcuts().setShortcut(controlC, shortcutNames::pickColor);
+    fakes.hotKeys.pressAndRelease(controlCKeys);
+    fakes.hotKeys.pressAndRelease(controlCKeys);
+    EXPECT_EQ(fakes.screenSampler.sampleCount(), 1);
+}
+
+TEST_F(AppDelegateTest, TheShortcutOfThePickFirstTakesAnOpenMenuOffTheScreen) {
+    delegate.shortcuts().setShortcut(controlC, shortcutNames::pickColor);
+    fakes.statusItem.click();
+    QWindow* menu = openMenu()->windowHandle();
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_C, Qt::ControlModifier,
+                        controlC.carbonKeyCode + FakeKeyboardLayout::scanCodeOffset, 0, 0);
+        QCoreApplication::sendEvent(menu, &event);
+    }
+    EXPECT_EQ(openMenu(), nullptr);
     EXPECT_FALSE(fakes.screenSampler.isUp());
     fakes.scheduler.advance(std::chrono::milliseconds(100));
     EXPECT_TRUE(fakes.screenSampler.isUp());

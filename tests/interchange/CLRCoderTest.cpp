@@ -10,19 +10,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QSet>
-#include <QTemporaryDir>
 
 #include <plist/plist.h>
 
 namespace dropshade {
 namespace {
-
-using Case = CLRCoderError::Case;
-
-const QString colors = QStringLiteral("Colors");
 
 ColorList listOf(std::initializer_list<const char*> keys) {
     ColorList list(QStringLiteral("list"));
@@ -44,7 +37,7 @@ QStringList shown(const Palette& palette) {
 }
 
 QStringList shown(const ColorList& list) {
-    return shown(CLRCoder::decode(list, ReferenceTime{}));
+    return shown(CLRCoder::paletteOf(list, ReferenceTime{}));
 }
 
 PaletteScale scaleOf(const char* name,
@@ -57,7 +50,7 @@ PaletteScale scaleOf(const char* name,
 }
 
 QStringList keysOf(const QList<PaletteScale>& scales) {
-    return CLRCoder::encode(makePalette("p", scales)).allKeys();
+    return CLRCoder::listOf(makePalette("p", scales)).allKeys();
 }
 
 TEST(CLRCoder, ReadsPlainKeysFlat) {
@@ -110,7 +103,7 @@ TEST(CLRCoder, MakesNoScalesOfAListWithoutKeys) {
 TEST(CLRCoder, ReadsValuesAsLowercaseHexWithoutAlpha) {
     ColorList list(QString{});
     list.setColor(SRGBColor(1.0, 0.5, 0.0, 0.25), QStringLiteral("k"));
-    const Palette palette = CLRCoder::decode(list, ReferenceTime{3.0});
+    const Palette palette = CLRCoder::paletteOf(list, ReferenceTime{3.0});
     EXPECT_EQ(palette.scales().at(0).swatches().at(0).value(), QStringLiteral("#ff8000"));
     EXPECT_EQ(palette.name(), QStringLiteral("Imported Palette"));
     EXPECT_EQ(palette.lastModified(), ReferenceTime{3.0});
@@ -120,7 +113,7 @@ TEST(CLRCoder, MakesNewIdsAtEveryLevel) {
     const ColorList list = listOf({"A / 1", "A / 2"});
     QSet<QUuid> ids;
     for (int round = 0; round < 2; ++round) {
-        const Palette palette = CLRCoder::decode(list, ReferenceTime{});
+        const Palette palette = CLRCoder::paletteOf(list, ReferenceTime{});
         const PaletteScale& scale = palette.scales().at(0);
         ids += {palette.id(), scale.id(), scale.swatches().at(0).id(), scale.swatches().at(1).id()};
     }
@@ -144,53 +137,24 @@ TEST(CLRCoder, NumbersKeysThatAreTaken) {
 }
 
 TEST(CLRCoder, StoresTheResolvedColorWithItsAlpha) {
-    const ColorList list = CLRCoder::encode(
+    const ColorList list = CLRCoder::listOf(
         makePalette("", {scaleOf("A", {{"rgba(255, 0, 0, 0.5)", "x"}, {"no colour", "y"}})}));
     EXPECT_EQ(list.name(), QStringLiteral("Imported Palette"));
     EXPECT_EQ(list.colorWithKey(QStringLiteral("A / x")), SRGBColor(1.0, 0.0, 0.0, 0.5));
     EXPECT_EQ(list.colorWithKey(QStringLiteral("A / y")), SRGBColor());
 }
 
-class CLRFile : public testing::Test {
-protected:
-    QTemporaryDir folder;
-
-    [[nodiscard]] QString path(const char* name) const {
-        return folder.filePath(QString::fromUtf8(name));
-    }
-
-    static Case caseOf(const std::function<void()>& action) {
-        try {
-            action();
-        } catch (const CLRCoderError& error) {
-            return error.which();
-        }
-        ADD_FAILURE() << "nothing thrown";
-        return {};
-    }
-};
-
-TEST_F(CLRFile, TakesThePalettesNameFromTheFile) {
-    const Palette palette = makePalette("p", {scaleOf("A", {{"#00f", "x"}})});
-    for (const auto& [file, name] : {std::pair("2024.final.clr", "2024.final"),
-                                     std::pair("群青.clr", "群青"), std::pair(".clr", ".clr")}) {
-        CLRCoder::write(palette, path(file));
-        EXPECT_EQ(CLRCoder::decode(path(file), ReferenceTime{}).name(), QString::fromUtf8(name));
-    }
-}
-
-TEST_F(CLRFile, ComesBackWithTheSameScalesLabelsAndValues) {
+TEST(CLRBytes, ComeBackWithTheSameKeysAndColors) {
     const std::uint64_t seed = testSeed();
     SCOPED_TRACE(seedTrace(seed));
     RandomPalettes random(seed);
     for (int round = 0; round < 100; ++round) {
         const Palette palette = random.palette();
-        CLRCoder::write(palette, path("list.clr"));
-        const ColorList encoded = CLRCoder::encode(palette);
+        const ColorList encoded = CLRCoder::listOf(palette);
         ColorList written(QString{});
         for (const QString& key : encoded.allKeys())
             written.setColor(encoded.colorWithKey(key), KeyBudget::cleaned(key));
-        const auto list = ColorList::load(QString(), path("list.clr"));
+        const auto list = ColorList::read(QString(), encoded.bytes());
         ASSERT_TRUE(list);
         ASSERT_EQ(list->allKeys().size(), written.allKeys().size());
         for (qsizetype at = 0; at < list->allKeys().size(); ++at) {
@@ -202,32 +166,19 @@ TEST_F(CLRFile, ComesBackWithTheSameScalesLabelsAndValues) {
     }
 }
 
-TEST_F(CLRFile, KeepsAlphaInTheListItself) {
-    CLRCoder::write(makePalette("p", {scaleOf("A", {{"rgba(51, 102, 153, 0.5)", "x"}})}),
-                    path("list.clr"));
-    const auto color =
-        ColorList::load(QString(), path("list.clr"))->colorWithKey(QStringLiteral("A / x"));
+TEST(CLRBytes, KeepAlphaInTheListItself) {
+    const Palette palette = makePalette("p", {scaleOf("A", {{"rgba(51, 102, 153, 0.5)", "x"}})});
+    const auto color = ColorList::read(QString(), CLRCoder::encode(palette))
+                           ->colorWithKey(QStringLiteral("A / x"));
     EXPECT_EQ(color->alpha(), 0.5);
     EXPECT_EQ(hexText(*color), QStringLiteral("#336699"));
 }
 
-TEST_F(CLRFile, FailsToLoadWhatIsNoReadableList) {
-    QFile file(path("text.clr"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("plain text");
-    file.close();
-    for (const QString& bad : {path("missing.clr"), path("text.clr"), folder.path(),
-                               QStringLiteral("/dev/zero"), QString()})
-        EXPECT_EQ(caseOf([&] { static_cast<void>(CLRCoder::decode(bad, ReferenceTime{})); }),
-                  Case::loadFailed)
-            << bad.toStdString();
-}
-
-TEST_F(CLRFile, FailsToWriteWhereThereIsNoFolderAndLeavesOldFilesAsTheyWere) {
-    const Palette palette = makePalette("p");
-    EXPECT_EQ(caseOf([&] { CLRCoder::write(palette, path("none/list.clr")); }), Case::writeFailed);
-    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("list.clr")));
-    EXPECT_EQ(caseOf([&] { CLRCoder::write(palette, path("list.clr")); }), Case::writeFailed);
+TEST(CLRBytes, AreRefusedWhereTheyAreNoList) {
+    EXPECT_EQ(CLRCoder::decode(CLRCoder::encode(makePalette("p")), ReferenceTime{}).name(),
+              QStringLiteral("Imported Palette"));
+    EXPECT_THROW(static_cast<void>(CLRCoder::decode("plain text", ReferenceTime{})), CLRCoderError);
+    EXPECT_THROW(static_cast<void>(CLRCoder::decode(QByteArray(), ReferenceTime{})), CLRCoderError);
 }
 
 /// What another library for property lists makes of the bytes.
@@ -268,7 +219,7 @@ private:
 TEST(CLRBytes, AreAKeyedArchiveWithEachColorInItsOwnAndInTheGenericSpace) {
     const Palette palette =
         makePalette("p", {scaleOf("A", {{"#ff0000", "x"}, {"rgba(0, 0, 255, 0.5)", "y"}})});
-    const Foreign list(CLRCoder::encode(palette).bytes());
+    const Foreign list(CLRCoder::encode(palette));
     ASSERT_TRUE(list.root());
     EXPECT_EQ(list.number(list.field(list.root(), "$version")), 100000U);
     EXPECT_STREQ(plist_get_string_ptr(list.field(list.root(), "$archiver"), nullptr),
@@ -300,7 +251,7 @@ TEST(CLRBytes, AreAKeyedArchiveWithEachColorInItsOwnAndInTheGenericSpace) {
 
 TEST(CLRBytes, AreTheSameEachTime) {
     const Palette palette = makePalette("p", {makeScale("A", {"#123456", "#654321"})});
-    EXPECT_EQ(CLRCoder::encode(palette).bytes(), CLRCoder::encode(palette).bytes());
+    EXPECT_EQ(CLRCoder::encode(palette), CLRCoder::encode(palette));
 }
 
 } // namespace

@@ -229,7 +229,7 @@ Cost costOfReading(const QByteArray& bytes) {
     std::optional<Palette> palette;
     return costOf([&] {
         if (const auto list = ColorList::read(QString(), bytes))
-            palette = CLRCoder::decode(*list, ReferenceTime{});
+            palette = CLRCoder::paletteOf(*list, ReferenceTime{});
     });
 }
 

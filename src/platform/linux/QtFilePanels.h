@@ -1,0 +1,28 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/FilePanels.h"
+
+#include <QObject>
+
+class QFileDialog;
+
+namespace dropshade {
+
+/// The desktop's own file dialogs where it has some, Qt's elsewhere.
+class QtFilePanels : public FilePanels {
+public:
+    void open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) override;
+    void save(const QString& title, const QString& name, const FileKind& kind, QWindow* host,
+              Answer answer) override;
+
+private:
+    [[nodiscard]] QFileDialog& makeDialog(const QString& title, const FileKind& kind,
+                                          Answer answer);
+
+    QObject m_life; ///< Panels that are still up end with it.
+    QString m_folder;
+};
+
+} // namespace dropshade

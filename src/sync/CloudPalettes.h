@@ -1,0 +1,81 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "palettes/Palette.h"
+#include "platform/CloudKeyValueStore.h"
+#include "platform/Scheduler.h"
+#include "sync/Tombstone.h"
+
+#include <QHash>
+
+#include <optional>
+
+namespace dropshade {
+
+namespace cloudKeys {
+
+inline const QString palettePrefix = QStringLiteral("palette.");
+inline const QString order = QStringLiteral("palette.order");
+inline const QString orderUpdatedAt = QStringLiteral("palette.order.updatedAt");
+inline const QString tombstones = QStringLiteral("palette.tombstones");
+
+[[nodiscard]] QString palette(const QUuid& id);
+/// The palette whose key this is, or nothing.
+[[nodiscard]] std::optional<QUuid> paletteId(const QString& key);
+
+} // namespace cloudKeys
+
+/// The bytes of a value at which a palette is too large to be shared.
+inline constexpr qsizetype palettesTooLarge = 900'000;
+
+/// The palettes in the cloud: a key for each, one for their order, one for what was deleted. What
+/// can't be read counts as missing.
+///
+/// Whose value hasn't changed is not decoded twice: a glance at a large library is cheap.
+class CloudPalettes {
+public:
+    CloudPalettes(CloudKeyValueStore& store, Scheduler& scheduler);
+
+    /// The palettes whose key and content agree, by when they were last modified.
+    [[nodiscard]] QHash<QUuid, ReferenceTime> stamps();
+    /// That of one palette.
+    [[nodiscard]] std::optional<ReferenceTime> stamp(const QUuid& id);
+    [[nodiscard]] std::optional<Palette> palette(const QUuid& id);
+
+    /// Leaves a palette that is too large unwritten.
+    void save(const Palette& palette);
+    void remove(const QUuid& id);
+
+    /// Without those that have expired.
+    [[nodiscard]] QList<Tombstone> loadTombstones() const;
+    void saveTombstones(const QList<Tombstone>& tombstones);
+
+    [[nodiscard]] QList<QUuid> loadRemoteOrder() const;
+    /// Seconds since 1970 of the last write of the order; 0 where there was none.
+    [[nodiscard]] double orderUpdatedAt() const;
+    void saveOrder(const QList<QUuid>& ids);
+
+    /// Lets go of the palettes decoded since the last call; what is known of their values stays.
+    void forgetDecoded() { m_decoded.clear(); }
+    /// The text in a value of a key, or nothing.
+    [[nodiscard]] static std::optional<QByteArray> text(const std::optional<CloudValue>& value);
+
+private:
+    struct Glance {
+        QByteArray digest;
+        /// Nothing where the value is no palette of that key.
+        std::optional<ReferenceTime> lastModified;
+    };
+
+    [[nodiscard]] std::optional<ReferenceTime> glanceAt(const QUuid& id, const CloudValue& value);
+    [[nodiscard]] std::optional<Palette> decoded(const QUuid& id, const CloudValue& value,
+                                                 ReferenceTime now) const;
+
+    CloudKeyValueStore& m_store;
+    Scheduler& m_scheduler;
+    QHash<QUuid, Glance> m_glances;
+    QHash<QUuid, Palette> m_decoded;
+};
+
+} // namespace dropshade

@@ -1,0 +1,217 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "interchange/PaletteImageRenderer.h"
+
+#include "support/Palettes.h"
+#include "support/QtPrinters.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace dropshade {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+int titleHeight() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setPixelSize(28);
+    font.setWeight(QFont::Bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return int(std::ceil(QFontMetricsF(font).height()));
+}
+
+QImage png(const Palette& palette) {
+    return QImage::fromData(PaletteImageRenderer::pngData(palette).value_or(QByteArray()), "png");
+}
+
+/// The middle of the picture's right part of a cell, where no text of a few letters reaches.
+QRgb cellPixel(const QImage& image, int firstX, int row, int column) {
+    const int x = firstX + 112 * column + 105;
+    const int y = 40 + titleHeight() + 28 + 82 * row + 38;
+    return image.pixel(2 * x, 2 * y);
+}
+
+TEST(PaletteImageRendererTest, AnEmptyPaletteIsItsTitleAndTheMargins) {
+    const QImage image = png(makePalette("Brand"));
+    EXPECT_EQ(image.height(), 2 * (titleHeight() + 80));
+    EXPECT_EQ(image.pixel(0, 0), 0xffffffffU);
+}
+
+TEST(PaletteImageRendererTest, ThePngHasTwoPixelsToThePointAndAnAlphaChannel) {
+    const QImage image = png(makePalette("A", {makeScale("", {"#f00", "#0f0"})}));
+    EXPECT_EQ(image.size(), QSize(2 * (80 + 224), 2 * (80 + titleHeight() + 28 + 76)));
+    EXPECT_TRUE(image.hasAlphaChannel());
+    EXPECT_EQ(image.depth(), 32);
+    EXPECT_EQ(image.dotsPerMeterX(), 5669);
+}
+
+TEST(PaletteImageRendererTest, SwatchesOfScalesWithoutNamesStillStandSixteenPointsToTheRight) {
+    const QImage image = png(makePalette("A", {makeScale(" ", {"#f00", "#0f0"})}));
+    const int y = 2 * (40 + titleHeight() + 28 + 2);
+    EXPECT_EQ(image.pixel(2 * 56 - 1, y), 0xffffffffU);
+    EXPECT_EQ(image.pixel(2 * 56, y), 0xffff0000U);
+    EXPECT_EQ(image.pixel(2 * (56 + 224) - 1, y), 0xff00ff00U);
+    EXPECT_EQ(image.pixel(2 * (56 + 224), y), 0xffffffffU);
+}
+
+TEST(PaletteImageRendererTest, RowsOfDifferentLengthStayLeftAlignedSixPointsApart) {
+    const QImage image =
+        png(makePalette("A", {makeScale("", {"#f00"}), makeScale("", {"#00f", "#0f0"})}));
+    EXPECT_EQ(cellPixel(image, 56, 0, 0), 0xffff0000U);
+    EXPECT_EQ(cellPixel(image, 56, 0, 1), 0xffffffffU);
+    EXPECT_EQ(cellPixel(image, 56, 1, 0), 0xff0000ffU);
+    EXPECT_EQ(cellPixel(image, 56, 1, 1), 0xff00ff00U);
+    const int gap = 2 * (40 + titleHeight() + 28 + 76 + 3);
+    EXPECT_EQ(image.pixel(2 * 60, gap), 0xffffffffU);
+}
+
+TEST(PaletteImageRendererTest, ASwatchWithAlphaShowsTheWhiteCanvasThroughIt) {
+    const QImage image = png(makePalette("A", {makeScale("", {"#00000080"})}));
+    EXPECT_NEAR(qRed(cellPixel(image, 56, 0, 0)), 127, 1);
+    EXPECT_EQ(qAlpha(cellPixel(image, 56, 0, 0)), 255);
+}
+
+TEST(PaletteImageRendererTest, AVeryLongTitleWidensTheCanvas) {
+    const QImage plain = png(makePalette("A", {makeScale("", {"#f00"})}));
+    const QImage wide = png(makePalette(QByteArray(200, 'W'), {makeScale("", {"#f00"})}));
+    EXPECT_GT(wide.width(), 2 * 200 * 20);
+    EXPECT_EQ(wide.height(), plain.height());
+    EXPECT_EQ(cellPixel(wide, 56, 0, 0), 0xffff0000U);
+}
+
+TEST(PaletteImageRendererTest, AScaleWithoutSwatchesTakesItsRowAndDrawsItsName) {
+    const QImage image = png(makePalette("A", {makeScale("Empty", {}), makeScale("", {"#f00"})}));
+    EXPECT_EQ(image.height(), 2 * (80 + titleHeight() + 28 + 2 * 76 + 6));
+    const QImage row = image.copy(0, 2 * (40 + titleHeight() + 28), image.width(), 2 * 76);
+    QImage white(row.size(), row.format());
+    white.fill(Qt::white);
+    EXPECT_NE(row, white);
+}
+
+TEST(PaletteImageRendererTest, TextOverASwatchContrastsWithIt) {
+    const QImage image = png(makePalette("A", {makeScale("", {"#000000", "#ffffff"})}));
+    const auto hasPixel = [&image](int left, auto test) {
+        for (int y = 2 * (40 + titleHeight() + 28); y < image.height() - 80; ++y) {
+            for (int x = 2 * left; x < 2 * (left + 112); ++x) {
+                if (test(qGray(image.pixel(x, y))))
+                    return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(hasPixel(56, [](int level) { return level > 200; }));
+    EXPECT_TRUE(hasPixel(56 + 112, [](int level) { return level < 80; }));
+}
+
+TEST(PaletteImageRendererTest, ARowWiderThanAPainterReachesIsDrawnToItsEnd) {
+    QList<PaletteSwatch> swatches(200, PaletteSwatch(QStringLiteral("#f00")));
+    swatches.append(PaletteSwatch(QStringLiteral("#00f")));
+    const QImage image = png(makePalette("A", {PaletteScale(QString(), swatches)}));
+    EXPECT_EQ(image.width(), 2 * (80 + 112 * 201));
+    EXPECT_EQ(cellPixel(image, 56, 0, 150), 0xffff0000U);
+    EXPECT_EQ(cellPixel(image, 56, 0, 200), 0xff0000ffU);
+}
+
+TEST(PaletteImageRendererTest, APictureBeyondTheLimitFailsAtOnce) {
+    const QList<PaletteSwatch> swatches(2000, PaletteSwatch(QStringLiteral("#f00")));
+    const QList<PaletteScale> scales(2000, PaletteScale(QString(), swatches));
+    EXPECT_FALSE(PaletteImageRenderer::pngData(makePalette("A", scales)));
+}
+
+class PaperTest : public testing::Test {
+protected:
+    /// What a tool of poppler's prints of the palette's document.
+    std::string printed(const QString& tool, const Palette& palette, const QStringList& options) {
+        const QString path = m_folder.filePath(QStringLiteral("palette.pdf"));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(PaletteImageRenderer::pdfData(palette).value_or(QByteArray()));
+        file.close();
+        QProcess process;
+        QStringList arguments = QStringList(options) << path;
+        if (tool == QStringLiteral("pdftotext"))
+            arguments << QStringLiteral("-");
+        process.start(tool, arguments);
+        EXPECT_TRUE(process.waitForFinished()) << "poppler's tools are missing";
+        return process.readAllStandardOutput().toStdString();
+    }
+    std::string text(const Palette& palette) {
+        return printed(QStringLiteral("pdftotext"), palette, {QStringLiteral("-raw")});
+    }
+    std::string info(const Palette& palette) {
+        return printed(QStringLiteral("pdfinfo"), palette, {QStringLiteral("-box")});
+    }
+
+    QTemporaryDir m_folder;
+};
+
+Palette brand() {
+    const PaletteSwatch sky(QStringLiteral(" #00AAFF\t"), QStringLiteral(" Sky\n"));
+    return makePalette("Brand", {PaletteScale(QStringLiteral("Blues"), {sky}),
+                                 makeScale("", {"#f00", "#0f0", "#00f"})});
+}
+
+TEST_F(PaperTest, TheDocumentIsOnePageOfTheCanvas) {
+    const std::string info = this->info(makePalette("A", {makeScale("", {"#f00", "#0f0"})}));
+    EXPECT_THAT(info, testing::ContainsRegex("Pages: +1\n"));
+    const std::string height = std::to_string(80 + titleHeight() + 28 + 76);
+    EXPECT_THAT(info, testing::ContainsRegex("MediaBox: +0.00 +0.00 +304.00 +" + height + ".00\n"));
+}
+
+TEST_F(PaperTest, TheTextIsTextInFontsThatTheDocumentHas) {
+    const std::string text = this->text(brand());
+    EXPECT_THAT(text, HasSubstr("Brand"));
+    EXPECT_THAT(text, HasSubstr("Blues"));
+    EXPECT_THAT(text, HasSubstr("#00aaff\nSky"));
+    const std::string fonts = printed(QStringLiteral("pdffonts"), brand(), {});
+    EXPECT_THAT(fonts, HasSubstr("yes"));
+    EXPECT_THAT(printed(QStringLiteral("pdfimages"), brand(), {QStringLiteral("-list")}),
+                Not(HasSubstr("image ")));
+}
+
+TEST_F(PaperTest, APaletteNamedWithBlanksIsTitledPalette) {
+    EXPECT_THAT(text(makePalette(" \t ")), HasSubstr("Palette"));
+}
+
+TEST_F(PaperTest, AValueWiderThanTheSwatchEndsWithAnEllipsis) {
+    const QString value = QStringLiteral("color(display-p3 0.123456 0.234567 0.345678)");
+    const std::string text =
+        this->text(makePalette("A", {PaletteScale(QString(), {PaletteSwatch(value)})}));
+    EXPECT_THAT(text, HasSubstr("\u2026"));
+    EXPECT_THAT(text, Not(HasSubstr("0.345678")));
+}
+
+TEST_F(PaperTest, ALabelOfBlanksCountsAsNone) {
+    const PaletteSwatch blank(QStringLiteral("#f00"), QStringLiteral(" \n "));
+    const PaletteSwatch none(QStringLiteral("#f00"));
+    const auto image = [](const PaletteSwatch& swatch) {
+        return png(makePalette("A", {PaletteScale(QString(), {swatch})}));
+    };
+    EXPECT_EQ(image(blank), image(none));
+}
+
+TEST_F(PaperTest, LineBreaksAndHostileNamesStayOnOneLine) {
+    const QString hostile = QStringLiteral(u"a\nb\u2028c\u202E) Tj ET");
+    const Palette palette(hostile, {PaletteScale(hostile, {PaletteSwatch(hostile, hostile)})},
+                          ReferenceTime{});
+    const std::string info = this->info(palette);
+    EXPECT_THAT(info, testing::ContainsRegex("Pages: +1\n"));
+    EXPECT_THAT(text(palette), HasSubstr("a b c"));
+}
+
+TEST_F(PaperTest, ALabelOfTenThousandLettersIsCut) {
+    const PaletteSwatch swatch(QStringLiteral("#f00"), QString(10'000, u'x'));
+    EXPECT_LT(text(makePalette("A", {PaletteScale(QString(), {swatch})})).size(), 200U);
+}
+
+} // namespace
+} // namespace dropshade
