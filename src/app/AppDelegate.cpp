@@ -3,7 +3,6 @@
 #include "app/AppDelegate.h"
 
 #include "app/LegacyPreferences.h"
-#include "app/RecentColor.h"
 #include "app/SettingsReaders.h"
 #include "widgets/Theme.h"
 #include "widgets/TintedIcon.h"
@@ -50,6 +49,7 @@ AppDelegate::AppDelegate(Platform platform)
       m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
+      m_copier(*m_platform.defaults, *m_platform.pasteboard, m_soundService),
       m_statusMenu(*m_platform.statusItem),
       m_paletteExporter(*m_platform.scheduler, *m_platform.filePanels, *m_platform.alerts) {}
 
@@ -154,14 +154,7 @@ void AppDelegate::finishPick(const std::optional<SRGBColor>& color) {
 }
 
 void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> format) {
-    countCopy();
-    UserDefaults& defaults = *m_platform.defaults;
-    const std::string text =
-        formatted(color, format.value_or(colorFormat(defaults)), formatOptions(defaults));
-    m_platform.pasteboard->setText(QString::fromStdString(text));
-    if (showRecentColors(defaults) && recentColorsLimit(defaults) >= 1)
-        recordRecentColor(defaults, color);
-    m_soundService.play();
+    m_copier.copyAndRecord(color, format);
 }
 
 const Look& AppDelegate::look() {
@@ -179,11 +172,6 @@ UpdateService& AppDelegate::updateService() {
             VersionNumber::parse(QCoreApplication::applicationVersion()).value_or(VersionNumber()));
     }
     return *m_updateService;
-}
-
-void AppDelegate::countCopy() {
-    const qint64 count = m_platform.defaults->read<qint64>(keys::totalChecksCount).value_or(0);
-    m_platform.defaults->setValue(keys::totalChecksCount, count + 1);
 }
 
 } // namespace dropshade

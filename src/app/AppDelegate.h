@@ -4,6 +4,7 @@
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "app/AppSettings.h"
+#include "app/ColorCopier.h"
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
@@ -95,7 +96,6 @@ private:
     void pickShortcutReleased();
     void updateStatusIcon();
     void finishPick(const std::optional<SRGBColor>& color);
-    void countCopy();
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
 
     Platform m_platform;
@@ -106,6 +106,7 @@ private:
     std::unique_ptr<UserPaletteStore> m_paletteStore;
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
+    ColorCopier m_copier;
     StatusMenu m_statusMenu;
     PaletteExporter m_paletteExporter;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
