@@ -6,15 +6,18 @@
 #include "support/FakeAlerts.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeApplicationInstance.h"
+#include "support/FakeCloudAccounts.h"
 #include "support/FakeFeedFetcher.h"
 #include "support/FakeFilePanels.h"
 #include "support/FakeHotKeyRegistrar.h"
 #include "support/FakeKeyboardLayout.h"
+#include "support/FakeLoginItem.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
 #include "support/FakeStatusItem.h"
 #include "support/ManualScheduler.h"
+#include "support/MemoryCloudStore.h"
 #include "support/MemoryDefaults.h"
 
 namespace dropshade {
@@ -33,8 +36,11 @@ struct FakePlatform {
     FakeKeyboardLayout& keyboardLayout = put<FakeKeyboardLayout>(platform.keyboardLayout);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
+    MemoryCloudStore& cloudStore = put<MemoryCloudStore>(platform.cloudStore);
+    FakeCloudAccounts& cloudAccounts = put<FakeCloudAccounts>(platform.cloudAccounts);
     FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
     FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
+    FakeLoginItem& loginItem = put<FakeLoginItem>(platform.loginItem);
 
 private:
     template <typename Fake, typename Seam>
