@@ -8,131 +8,42 @@ Needs Debian's python3-xlib, xvfb, openbox, trayer, dbus-daemon and xclip; run i
 
 import os
 import random
-import shutil
-import signal
 import struct
 import subprocess
-import tempfile
 import time
 import zlib
 
 from Xlib import X, XK, display, error
 from Xlib.ext import xtest
 
-WAIT_SECONDS = 10.0
+from private_session import WAIT_SECONDS, PrivateSession, Process, wait_until
+
 LOUPE_RING_RADIUS = 79.75
-SHARED_VARIABLES = ("PATH", "LANG", "LD_LIBRARY_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS")
-
-# Without any service folder: nothing starts on this bus but what a test starts.
-BUS_CONFIGURATION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:path={path}</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-"""
 
 
-def wait_until(condition, what, seconds=WAIT_SECONDS):
-    """The first true result of `condition`, asked again and again; fails with `what` in its text."""
-    deadline = time.monotonic() + seconds
-    while True:
-        result = condition()
-        if result:
-            return result
-        if time.monotonic() > deadline:
-            raise TimeoutError(f"waited {seconds} s in vain for {what}")
-        time.sleep(0.005)
-
-
-class Process:
-    """A child of the desktop, in a process group of its own."""
-
-    def __init__(self, command, environment, output=None):
-        self._popen = subprocess.Popen(
-            command, env=environment, stdin=subprocess.DEVNULL, stdout=output or subprocess.DEVNULL,
-            stderr=output or subprocess.DEVNULL, start_new_session=True)
-        self.pid = self._popen.pid
-
-    @property
-    def returncode(self):
-        return self._popen.poll()
-
-    def wait(self, seconds=WAIT_SECONDS):
-        return self._popen.wait(seconds)
-
-    def send(self, number):
-        self._popen.send_signal(number)
-
-    def end(self):
-        """Asks it to end, and makes it end."""
-        if self._popen.poll() is None:
-            self._popen.terminate()
-            try:
-                self._popen.wait(5)
-            except subprocess.TimeoutExpired:
-                os.killpg(self.pid, signal.SIGKILL)
-                self._popen.wait()
-
-
-class VirtualDesktop:
+class VirtualDesktop(PrivateSession):
     """`with VirtualDesktop() as desktop:` gives a desktop that is ready for use."""
 
     def __init__(self, width=1280, height=800, depth=24, tray=True):
+        super().__init__()
         self._size = (width, height, depth)
         self._wants_tray = tray
-        self._children = []
-        self._folder = tempfile.mkdtemp(prefix="dropshade-desktop-")
-        self.environment = {name: os.environ[name] for name in SHARED_VARIABLES if name in os.environ}
 
-    def __enter__(self):
-        try:
-            self._make_folders()
-            self._start_x_server()
-            self._start_bus()
-            self.display = display.Display(self.environment["DISPLAY"])
-            self.root = self.display.screen().root
-            self._start_window_manager()
-            if self._wants_tray:
-                self.start_tray()
-        except BaseException:
-            self.__exit__()
-            raise
-        return self
+    def start_all(self):
+        self._start_x_server()
+        self.start_bus()
+        self.display = display.Display(self.environment["DISPLAY"])
+        self.root = self.display.screen().root
+        self._start_window_manager()
+        if self._wants_tray:
+            self.start_tray()
 
     def __exit__(self, *_):
         if hasattr(self, "display"):
             self.display.close()
-        for child in reversed(self._children):
-            child.end()
-        shutil.rmtree(self._folder, ignore_errors=True)
+        super().__exit__()
 
     # Building it
-
-    def _make_folders(self):
-        for variable, name in (("HOME", "home"), ("XDG_RUNTIME_DIR", "runtime"),
-                               ("XDG_CONFIG_HOME", "home/.config")):
-            path = os.path.join(self._folder, name)
-            os.makedirs(path, mode=0o700, exist_ok=True)
-            self.environment[variable] = path
-        self.environment["QT_LOGGING_RULES"] = "qt.qpa.theme*=false"
-
-    def start(self, command, **variables):
-        """Starts a child that ends with the desktop; `variables` are added to its environment."""
-        with open(os.path.join(self._folder, "output.txt"), "ab") as log:
-            child = Process(command, {**self.environment, **variables}, log)
-        self._children.append(child)
-        return child
-
-    def output(self):
-        """All that the children have printed, for the message of a failed test."""
-        with open(os.path.join(self._folder, "output.txt"), errors="replace") as file:
-            return file.read()
 
     def _start_x_server(self):
         width, height, depth = self._size
@@ -152,15 +63,6 @@ class VirtualDesktop:
         if not number:
             raise RuntimeError("Xvfb did not start")
         self.environment["DISPLAY"] = f":{number}"
-
-    def _start_bus(self):
-        path = os.path.join(self.environment["XDG_RUNTIME_DIR"], "bus")
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={path}"
-        config = os.path.join(self._folder, "bus.conf")
-        with open(config, "w") as file:
-            file.write(BUS_CONFIGURATION.format(path=path))
-        self.start(["dbus-daemon", "--nofork", "--nopidfile", f"--config-file={config}"])
-        wait_until(lambda: os.path.exists(path), "the message bus")
 
     def _start_window_manager(self):
         self.start(["openbox", "--sm-disable"])
@@ -296,13 +198,6 @@ class VirtualDesktop:
     def pause_after_closing_click(self):
         """As long as a program may take a click for the one that closed its menu."""
         time.sleep(0.3)
-
-    def bus_has_name(self, name):
-        result = subprocess.run(
-            ["dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus",
-             "/org/freedesktop/DBus", "org.freedesktop.DBus.NameHasOwner", f"string:{name}"],
-            env=self.environment, capture_output=True, text=True, check=False)
-        return "true" in result.stdout
 
     def listening_window(self, x, y, width, height):
         """A window of another program that notes the mouse buttons it sees."""

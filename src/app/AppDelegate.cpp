@@ -45,7 +45,9 @@ QString statusIconResource(MenuBarIconStyle style) {
 
 AppDelegate::AppDelegate(Platform platform)
     : m_platform(withLegacyPreferences(std::move(platform))),
-      m_settings(*m_platform.defaults, *m_platform.scheduler), m_presets(*m_platform.scheduler),
+      m_settings(*m_platform.defaults, *m_platform.scheduler),
+      m_shortcuts(*m_platform.defaults, *m_platform.hotKeys, *m_platform.keyboardLayout),
+      m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
       m_statusMenu(*m_platform.statusItem),
@@ -54,6 +56,7 @@ AppDelegate::AppDelegate(Platform platform)
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
+    registerShortcuts();
     connect(m_platform.statusItem.get(), &StatusItem::clicked, this,
             &AppDelegate::statusItemClicked);
     updateStatusIcon();
@@ -69,6 +72,22 @@ void AppDelegate::applicationDidFinishLaunching() {
                                                 [this] { static_cast<void>(paletteStore()); });
     if (UpdateService::automaticallyChecksForUpdates(*m_platform.defaults))
         updateService();
+}
+
+void AppDelegate::registerShortcuts() {
+    m_shortcuts.onKeyUp(shortcutNames::pickColor, [this] { pickShortcutReleased(); });
+    m_shortcuts.onKeyUp(shortcutNames::checkContrast, [this] {
+        m_statusMenu.close();
+        openContrast();
+    });
+    m_shortcuts.onKeyUp(shortcutNames::palettes, [this] {
+        m_statusMenu.close();
+        openPalettes();
+    });
+    m_shortcuts.onKeyUp(shortcutNames::convert, [this] {
+        m_statusMenu.close();
+        openColorPicker();
+    });
 }
 
 void AppDelegate::applicationWillTerminate() {
@@ -112,6 +131,15 @@ void AppDelegate::pickColorClicked() {
     m_pickAfterMenu = m_platform.scheduler->after(menuFadeDelay, [this] { startPick(); });
 }
 
+void AppDelegate::pickShortcutReleased() {
+    if (!m_statusMenu.isOpen()) {
+        startPick();
+        return;
+    }
+    m_statusMenu.close();
+    pickColorClicked();
+}
+
 void AppDelegate::startPick() {
     if (m_isPicking)
         return;
@@ -134,6 +162,12 @@ void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> f
     if (showRecentColors(defaults) && recentColorsLimit(defaults) >= 1)
         recordRecentColor(defaults, color);
     m_soundService.play();
+}
+
+const Look& AppDelegate::look() {
+    if (!m_look)
+        m_look = std::make_unique<Look>(*m_platform.appearance);
+    return *m_look;
 }
 
 UpdateService& AppDelegate::updateService() {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "app/AppSettings.h"
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
@@ -13,6 +14,7 @@
 #include "interchange/PaletteImporter.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
+#include "widgets/Look.h"
 
 #include <QObject>
 
@@ -69,8 +71,13 @@ public:
 
     [[nodiscard]] AppSettings& settings() { return m_settings; }
 
+    [[nodiscard]] KeyboardShortcuts& shortcuts() { return m_shortcuts; }
+
     /// Loaded at the first call, or soon after the launch.
     [[nodiscard]] UserPaletteStore& paletteStore();
+
+    /// The look of every window and menu; made at the first call.
+    [[nodiscard]] const Look& look();
 
     PaletteExporter& paletteExporter() { return m_paletteExporter; }
 
@@ -82,8 +89,10 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
+    void pickShortcutReleased();
     void updateStatusIcon();
     void finishPick(const std::optional<SRGBColor>& color);
     void countCopy();
@@ -91,6 +100,8 @@ private:
 
     Platform m_platform;
     AppSettings m_settings;
+    std::unique_ptr<Look> m_look;
+    KeyboardShortcuts m_shortcuts;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;
     ColorPickerService m_colorPickerService;

@@ -28,6 +28,15 @@ void StatusMenu::show() {
     m_menu->popup(origin(m_menu->sizeHint()));
 }
 
+bool StatusMenu::isOpen() const {
+    return m_menu && m_menu->isVisible();
+}
+
+void StatusMenu::close() {
+    if (m_menu)
+        m_menu->close();
+}
+
 std::unique_ptr<QMenu> StatusMenu::buildMenu() {
     auto menu = std::make_unique<QMenu>();
     QAction* hint = menu->addAction(tr("Control-click for quick pick", "Menu bar hint"));

@@ -23,6 +23,9 @@ public:
     /// the item is. A click that has just closed the menu does not open it again.
     void show();
 
+    [[nodiscard]] bool isOpen() const;
+    void close();
+
 Q_SIGNALS:
     void pickColorClicked();
     void quitClicked();

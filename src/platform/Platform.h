@@ -7,6 +7,9 @@
 #include "platform/DesktopAppearance.h"
 #include "platform/FeedFetcher.h"
 #include "platform/FilePanels.h"
+#include "platform/HotKeyRegistrar.h"
+#include "platform/KeyboardLayout.h"
+#include "platform/LoginItem.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"
@@ -27,10 +30,13 @@ struct Platform {
     std::unique_ptr<DesktopAppearance> appearance;
     std::unique_ptr<ScreenSampler> screenSampler;
     std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<HotKeyRegistrar> hotKeys;
+    std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<SoundPlayer> soundPlayer;
     std::unique_ptr<FeedFetcher> feedFetcher;
     std::unique_ptr<FilePanels> filePanels;
     std::unique_ptr<Alerts> alerts;
+    std::unique_ptr<LoginItem> loginItem;
 };
 
 } // namespace dropshade

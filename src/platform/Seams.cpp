@@ -7,6 +7,7 @@
 #include "platform/CloudKeyValueStore.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/FilePanels.h"
+#include "platform/HotKeyRegistrar.h"
 #include "platform/Pasteboard.h"
 #include "platform/Scheduler.h"
 #include "platform/ScreenSampler.h"

@@ -2,15 +2,20 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Look.h"
 
+#include "widgets/ThemeStyle.h"
+
 namespace dropshade {
 
-Look::Look(const DesktopAppearance& appearance) : m_appearance(appearance) {
+Look::Look(const DesktopAppearance& appearance)
+    : m_appearance(appearance), m_style(std::make_unique<ThemeStyle>(m_theme)) {
     update();
     connect(&appearance, &DesktopAppearance::didChange, this, [this] {
         update();
         Q_EMIT didChange();
     });
 }
+
+Look::~Look() = default;
 
 std::chrono::milliseconds Look::duration(std::chrono::milliseconds time) const {
     return m_appearance.reducesMotion() ? std::chrono::milliseconds::zero() : time;

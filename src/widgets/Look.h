@@ -8,6 +8,9 @@
 #include <QObject>
 
 #include <chrono>
+#include <memory>
+
+class QStyle;
 
 namespace dropshade {
 
@@ -20,6 +23,7 @@ class Look : public QObject {
 public:
     /// `appearance` must outlive this object.
     explicit Look(const DesktopAppearance& appearance);
+    ~Look() override;
 
     const Theme& theme() const { return m_theme; }
 
@@ -29,6 +33,10 @@ public:
     /// See `DesktopAppearance::blendsWindows`.
     [[nodiscard]] bool blendsWindows() const { return m_appearance.blendsWindows(); }
 
+    /// Draws what a control of Qt's own leaves to its style: menus, scroll bars, focus rings. For
+    /// `QWidget::setStyle` on each such control.
+    [[nodiscard]] QStyle* style() const { return m_style.get(); }
+
 Q_SIGNALS:
     void didChange();
 
@@ -37,6 +45,7 @@ private:
 
     const DesktopAppearance& m_appearance;
     Theme m_theme;
+    std::unique_ptr<QStyle> m_style;
 };
 
 } // namespace dropshade

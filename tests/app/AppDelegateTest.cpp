@@ -5,7 +5,9 @@
 #include "support/FakePlatform.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -13,6 +15,9 @@ namespace dropshade {
 namespace {
 
 const SRGBColor pink(1.0, 0.0, 128.0 / 255.0, 0.5);
+
+const Shortcut controlC{8, controlKey};
+const FakeHotKeyRegistrar::Combination controlCKeys(8, controlKey);
 
 class AppDelegateTest : public testing::Test {
 protected:
@@ -74,6 +79,41 @@ TEST_F(AppDelegateTest, StartingTheProgramOnceMoreOpensTheMenu) {
 TEST_F(AppDelegateTest, QuickPickSamplesOnceTheMenuHasFadedFromTheScreen) {
     fakes.statusItem.click();
     openMenu()->actions().at(2)->trigger();
+    EXPECT_FALSE(fakes.screenSampler.isUp());
+    fakes.scheduler.advance(std::chrono::milliseconds(100));
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, NoShortcutIsBoundUntilTheUserRecordsOne) {
+    EXPECT_TRUE(fakes.hotKeys.combinations().empty());
+}
+
+TEST_F(AppDelegateTest, TheShortcutOfThePickSamplesOnRelease) {
+    delegate.shortcuts().setShortcut(controlC, shortcutNames::pickColor);
+    fakes.hotKeys.press(controlCKeys);
+    fakes.hotKeys.press(controlCKeys);
+    EXPECT_FALSE(fakes.screenSampler.isUp());
+    fakes.hotKeys.release(controlCKeys.first);
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, TheShortcutOfThePickPressedTwiceStartsOneSampler) {
+    delegate.shortcuts().setShortcut(controlC, shortcutNames::pickColor);
+    fakes.hotKeys.pressAndRelease(controlCKeys);
+    fakes.hotKeys.pressAndRelease(controlCKeys);
+    EXPECT_EQ(fakes.screenSampler.sampleCount(), 1);
+}
+
+TEST_F(AppDelegateTest, TheShortcutOfThePickFirstTakesAnOpenMenuOffTheScreen) {
+    delegate.shortcuts().setShortcut(controlC, shortcutNames::pickColor);
+    fakes.statusItem.click();
+    QWindow* menu = openMenu()->windowHandle();
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_C, Qt::ControlModifier,
+                        controlC.carbonKeyCode + FakeKeyboardLayout::scanCodeOffset, 0, 0);
+        QCoreApplication::sendEvent(menu, &event);
+    }
+    EXPECT_EQ(openMenu(), nullptr);
     EXPECT_FALSE(fakes.screenSampler.isUp());
     fakes.scheduler.advance(std::chrono::milliseconds(100));
     EXPECT_TRUE(fakes.screenSampler.isUp());

@@ -31,6 +31,15 @@ class Adapters(unittest.TestCase):
     def test_the_loupe_keeps_the_contract_of_the_sampler(self):
         self.run_contract("ScreenSamplerContractTest")
 
+    def test_the_portal_keeps_its_promises_on_a_session_bus(self):
+        self.run_contract("PortalScreenSamplerTest")
+
+    def test_grabbed_keys_keep_the_contract_of_hot_keys(self):
+        self.run_contract("HotKeyRegistrarContractTest")
+
+    def test_the_layout_is_that_of_the_x_server(self):
+        self.run_contract("XkbKeyboardLayoutTest")
+
     def test_the_clipboard_keeps_the_contract_of_the_pasteboard(self):
         self.run_contract("PasteboardContractTest")
 

@@ -8,6 +8,9 @@
 #include "support/FakeApplicationInstance.h"
 #include "support/FakeFeedFetcher.h"
 #include "support/FakeFilePanels.h"
+#include "support/FakeHotKeyRegistrar.h"
+#include "support/FakeKeyboardLayout.h"
+#include "support/FakeLoginItem.h"
 #include "support/FakePasteboard.h"
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
@@ -27,10 +30,13 @@ struct FakePlatform {
     FakeAppearance& appearance = put<FakeAppearance>(platform.appearance);
     FakeScreenSampler& screenSampler = put<FakeScreenSampler>(platform.screenSampler);
     FakeStatusItem& statusItem = put<FakeStatusItem>(platform.statusItem);
+    FakeHotKeyRegistrar& hotKeys = put<FakeHotKeyRegistrar>(platform.hotKeys);
+    FakeKeyboardLayout& keyboardLayout = put<FakeKeyboardLayout>(platform.keyboardLayout);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
     FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
     FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
+    FakeLoginItem& loginItem = put<FakeLoginItem>(platform.loginItem);
 
 private:
     template <typename Fake, typename Seam>

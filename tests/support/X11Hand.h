@@ -15,7 +15,13 @@ namespace dropshade {
 class X11Hand {
 public:
     X11Hand() : m_connection(xcb_connect(nullptr, nullptr)) {}
-    ~X11Hand() { xcb_disconnect(m_connection); }
+    ~X11Hand() {
+        // An answer proves that the server has seen all that was sent; it may drop the rest of a
+        // connection that is closed.
+        std::free(
+            xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        xcb_disconnect(m_connection);
+    }
     X11Hand(const X11Hand&) = delete;
     X11Hand& operator=(const X11Hand&) = delete;
 
@@ -30,20 +36,35 @@ public:
         xcb_flush(m_connection);
     }
 
-    void click(std::uint8_t button) { send(XCB_BUTTON_PRESS, XCB_BUTTON_RELEASE, button); }
-
-    void escape() {
-        xcb_key_symbols_t* symbols = xcb_key_symbols_alloc(m_connection);
-        xcb_keycode_t* codes = xcb_key_symbols_get_keycode(symbols, XK_Escape);
-        send(XCB_KEY_PRESS, XCB_KEY_RELEASE, codes[0]);
-        std::free(codes);
-        xcb_key_symbols_free(symbols);
+    void click(std::uint8_t button) {
+        send(XCB_BUTTON_PRESS, button);
+        send(XCB_BUTTON_RELEASE, button);
     }
 
+    void escape() {
+        press(keyOf(XK_Escape));
+        release(keyOf(XK_Escape));
+    }
+
+    /// The key that makes the symbol, by the server's number.
+    [[nodiscard]] std::uint8_t keyOf(xcb_keysym_t symbol) {
+        xcb_key_symbols_t* symbols = xcb_key_symbols_alloc(m_connection);
+        xcb_keycode_t* codes = xcb_key_symbols_get_keycode(symbols, symbol);
+        const std::uint8_t key = codes[0];
+        std::free(codes);
+        xcb_key_symbols_free(symbols);
+        return key;
+    }
+
+    void press(std::uint8_t key) { send(XCB_KEY_PRESS, key); }
+    void release(std::uint8_t key) { send(XCB_KEY_RELEASE, key); }
+
+    /// Another program's connection to the same server.
+    xcb_connection_t* connection() { return m_connection; }
+
 private:
-    void send(std::uint8_t down, std::uint8_t up, std::uint8_t detail) {
-        for (const std::uint8_t type : {down, up})
-            xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    void send(std::uint8_t type, std::uint8_t detail) {
+        xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
         xcb_flush(m_connection);
     }
 

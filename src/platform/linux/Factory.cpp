@@ -2,21 +2,25 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/Factory.h"
 
+#include "platform/linux/AutostartLoginItem.h"
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
-#include "platform/linux/NullScreenSampler.h"
+#include "platform/linux/NullHotKeyRegistrar.h"
 #include "platform/linux/PortalAppearance.h"
+#include "platform/linux/PortalScreenSampler.h"
 #include "platform/linux/QtAlerts.h"
 #include "platform/linux/QtFilePanels.h"
-#include "platform/linux/QtPasteboard.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
 #include "platform/linux/SqliteDefaults.h"
 #include "platform/linux/TrayStatusItem.h"
+#include "platform/linux/WaylandPasteboard.h"
 #include "platform/linux/X11Compositing.h"
+#include "platform/linux/X11HotKeyRegistrar.h"
 #include "platform/linux/X11Pasteboard.h"
 #include "platform/linux/X11ScreenSampler.h"
+#include "platform/linux/XkbKeyboardLayout.h"
 
 #include <QGuiApplication>
 
@@ -30,7 +34,7 @@ bool isX11() {
 
 std::unique_ptr<ScreenSampler> makeSampler(const DesktopAppearance& appearance) {
     if (!isX11())
-        return std::make_unique<NullScreenSampler>();
+        return std::make_unique<PortalScreenSampler>();
     return std::make_unique<X11ScreenSampler>([&appearance] {
         return Theme::of(appearance.isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light);
     });
@@ -39,7 +43,13 @@ std::unique_ptr<ScreenSampler> makeSampler(const DesktopAppearance& appearance) 
 std::unique_ptr<Pasteboard> makePasteboard() {
     if (isX11())
         return std::make_unique<X11Pasteboard>();
-    return std::make_unique<QtPasteboard>();
+    return std::make_unique<WaylandPasteboard>();
+}
+
+std::unique_ptr<HotKeyRegistrar> makeHotKeys() {
+    if (isX11())
+        return std::make_unique<X11HotKeyRegistrar>();
+    return std::make_unique<NullHotKeyRegistrar>();
 }
 
 } // namespace
@@ -53,12 +63,15 @@ Platform makePlatform() {
     platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
+    platform.hotKeys = makeHotKeys();
+    platform.keyboardLayout = std::make_unique<XkbKeyboardLayout>();
     platform.soundPlayer = std::make_unique<SoundProcess>(
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
     platform.filePanels = std::make_unique<QtFilePanels>();
     platform.alerts = std::make_unique<QtAlerts>();
+    platform.loginItem = std::make_unique<AutostartLoginItem>(AutostartLoginItem::ofSession());
     return platform;
 }
 

@@ -1,0 +1,99 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "widgets/FloatingWindow.h"
+
+#include "widgets/FocusRing.h"
+#include "widgets/WindowFrames.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QShortcut>
+
+namespace dropshade {
+
+namespace {
+
+/// While the user drags a border there is a new frame with each pixel.
+constexpr std::chrono::milliseconds frameDelay{400};
+
+QList<QRect> availableScreens() {
+    QList<QRect> areas;
+    for (const QScreen* screen : QGuiApplication::screens())
+        areas.append(screen->availableGeometry());
+    return areas;
+}
+
+} // namespace
+
+FloatingWindow::FloatingWindow(const Look& look)
+    : QWidget(nullptr, Qt::Window | Qt::WindowStaysOnTopHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      m_look(look) {
+    setAttribute(Qt::WA_AlwaysShowToolTips);
+    // The paint event fills all of it.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    new FocusRing(look, *this);
+    for (const QKeySequence& keys :
+         {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W),
+          QKeySequence(Qt::META | Qt::Key_W)})
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+    m_frameSettles.setSingleShot(true);
+    m_frameSettles.setInterval(frameDelay);
+    connect(&m_frameSettles, &QTimer::timeout, this, &FloatingWindow::storeFrame);
+    connect(&look, &Look::didChange, this, qOverload<>(&QWidget::update));
+}
+
+void FloatingWindow::rememberFrame(UserDefaults& defaults, const QString& name, const QSize& size) {
+    if (const auto stored = storedWindowFrame(defaults, name)) {
+        const QRect frame = onScreens(*stored, availableScreens());
+        resize(frame.size());
+        move(frame.topLeft());
+    } else {
+        resize(size);
+        if (const QScreen* screen = QGuiApplication::primaryScreen())
+            move(screen->availableGeometry().center() - QPoint(width() / 2, height() / 2));
+    }
+    m_defaults = &defaults;
+    m_frameName = name;
+}
+
+void FloatingWindow::present() {
+    if (isMinimized())
+        setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void FloatingWindow::closeEvent(QCloseEvent* event) {
+    storeFrame();
+    event->accept();
+    Q_EMIT closed();
+}
+
+void FloatingWindow::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (m_defaults && isVisible())
+        m_frameSettles.start();
+}
+
+void FloatingWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (m_defaults && isVisible())
+        m_frameSettles.start();
+}
+
+void FloatingWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), m_look.theme().surfaceWindow);
+}
+
+void FloatingWindow::storeFrame() {
+    m_frameSettles.stop();
+    if (m_defaults && isVisible() && !isMinimized())
+        storeWindowFrame(*m_defaults, m_frameName, QRect(pos(), size()));
+}
+
+} // namespace dropshade

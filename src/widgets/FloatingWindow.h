@@ -1,0 +1,49 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/UserDefaults.h"
+#include "widgets/Look.h"
+
+#include <QTimer>
+#include <QWidget>
+
+namespace dropshade {
+
+/// A window of the program: it floats above others, remembers its frame, closes on Escape and on
+/// Ctrl+W, and takes the keyboard when it is summoned.
+class FloatingWindow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// Puts the frame back that was stored under `name` and stores it there from now on; without
+    /// one the window is centred with `size` for its content.
+    void rememberFrame(UserDefaults& defaults, const QString& name, const QSize& size);
+
+    /// Brings the window to the front, shown or hidden before, and gives it the keyboard.
+    void present();
+
+Q_SIGNALS:
+    /// The user closed the window; not when it merely hides.
+    void closed();
+
+protected:
+    explicit FloatingWindow(const Look& look);
+
+    [[nodiscard]] const Look& look() const { return m_look; }
+
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void storeFrame();
+
+    const Look& m_look;
+    UserDefaults* m_defaults = nullptr;
+    QString m_frameName;
+    QTimer m_frameSettles;
+};
+
+} // namespace dropshade

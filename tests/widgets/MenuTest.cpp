@@ -1,0 +1,61 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "widgets/Menu.h"
+
+#include "support/FakeAppearance.h"
+
+#include <gtest/gtest.h>
+
+namespace dropshade {
+namespace {
+
+class MenuTest : public testing::Test {
+protected:
+    FakeAppearance m_appearance;
+    Look m_look{m_appearance};
+    Menu m_menu{m_look};
+};
+
+TEST_F(MenuTest, AHeaderCannotBeChosen) {
+    EXPECT_FALSE(m_menu.addHeader(QStringLiteral("Web"))->isEnabled());
+}
+
+TEST_F(MenuTest, RowsAreAsHighAsThemeRowsAndSeparatorsLower) {
+    QAction* row = m_menu.addRow(QStringLiteral("Rename"), Icon::Copy);
+    QAction* separator = m_menu.addSeparator();
+    m_menu.addRow(QStringLiteral("Delete"));
+    EXPECT_EQ(m_menu.actionGeometry(row).height(), 28);
+    EXPECT_EQ(m_menu.actionGeometry(separator).height(), 12);
+}
+
+TEST_F(MenuTest, IsWideEnoughForWordsAndKeyEquivalent) {
+    QAction* bare = m_menu.addRow(QStringLiteral("Quick Pick"));
+    const int narrow = m_menu.actionGeometry(bare).width();
+    m_menu.addRow(QStringLiteral("Quick Pick\tCtrl+Alt+Space"));
+    EXPECT_GT(m_menu.sizeHint().width(), narrow + 40);
+}
+
+TEST_F(MenuTest, ASubmenuIsInTheSameLook) {
+    const Menu* submenu = m_menu.addSubmenu(QStringLiteral("Copy As"), Icon::Copy);
+    EXPECT_EQ(submenu->style(), m_look.style());
+    EXPECT_EQ(submenu->parent(), &m_menu);
+}
+
+TEST_F(MenuTest, AColorsImageIsTheColorAtBothScales) {
+    const QIcon icon = colorImage(QColor(10, 200, 30), m_look.theme());
+    const QImage image = icon.pixmap(QSize(20, 20)).toImage();
+    EXPECT_EQ(QColor(image.pixel(10, 10)), QColor(10, 200, 30));
+    EXPECT_TRUE(icon.availableSizes().contains(QSize(40, 40)) ||
+                icon.pixmap(QSize(20, 20), 2.0).width() == 40);
+}
+
+TEST_F(MenuTest, HasOneRowForEachThingItIsGiven) {
+    m_menu.addRow(QStringLiteral("A"));
+    m_menu.setDestructive(m_menu.addRow(QStringLiteral("Delete")));
+    m_menu.show();
+    EXPECT_FALSE(m_menu.grab().isNull());
+    EXPECT_EQ(m_menu.actions().size(), 2);
+}
+
+} // namespace
+} // namespace dropshade
