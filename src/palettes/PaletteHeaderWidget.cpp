@@ -34,7 +34,7 @@ PaletteHeaderWidget::PaletteHeaderWidget(const Look& look, QWidget* list)
     : ListRowWidget(look, list) {}
 
 void PaletteHeaderWidget::display(const Palette& palette, bool isExpanded,
-                               const ListMeasures& measures, Line line) {
+                                  const ListMeasures& measures, Line line) {
     m_line = line;
     m_paletteId = palette.id();
     m_name = palette.name();
@@ -59,8 +59,8 @@ QRectF PaletteHeaderWidget::spineArea() const {
     const double chip = m_measures.isCompact ? spineChipCompact : metrics::spineChip;
     const double length = chip * double(m_spine.size());
     const double right = optionsArea().left() - metrics::space12;
-    return {right - length, lineHeight() + (m_measures.headerHeight() - metrics::spineChip) / 2.0, length,
-            metrics::spineChip};
+    return {right - length, lineHeight() + (m_measures.headerHeight() - metrics::spineChip) / 2.0,
+            length, metrics::spineChip};
 }
 
 ListElement PaletteHeaderWidget::elementAt(const QPointF& local) const {
@@ -121,12 +121,13 @@ void PaletteHeaderWidget::paint(QPainter& painter, const QRegion&) {
 
     const QFont font = textFont(TextStyle::Strong);
     const double left = isCompact ? compactNameLeft : nameLeft;
-    const bool hasSpine = !m_isExpanded && !m_spine.isEmpty() &&
-                          spineArea().left() >= left + metrics::space40;
+    const bool hasSpine =
+        !m_isExpanded && !m_spine.isEmpty() && spineArea().left() >= left + metrics::space40;
     const double right = (hasSpine ? spineArea().left() : optionsArea().left()) - metrics::space8;
     painter.setFont(font);
     painter.setPen(theme().textPrimary);
-    painter.drawText(QRectF(left, lineHeight(), right - left, m_measures.headerHeight()), Qt::AlignVCenter | Qt::TextSingleLine,
+    painter.drawText(QRectF(left, lineHeight(), right - left, m_measures.headerHeight()),
+                     Qt::AlignVCenter | Qt::TextSingleLine,
                      QFontMetricsF(font).elidedText(m_name, Qt::ElideRight, right - left));
     if (marks().focused == element(Part::Header))
         drawFocusRing(painter, areaOf(marks().focused), metrics::radiusControl, theme());

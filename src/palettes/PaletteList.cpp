@@ -231,8 +231,7 @@ void PaletteList::fillRow(const ListRow& row, ListRowWidget& widget, Change chan
 void PaletteList::placeRow(const ListRow& row, ListRowWidget& widget) {
     const auto* header = qobject_cast<const PaletteHeaderWidget*>(&widget);
     const int line = header ? header->lineHeight() : 0;
-    widget.setGeometry(0, qRound(shownTop(row)) - line, width(),
-                       int(std::ceil(row.height)) + line);
+    widget.setGeometry(0, qRound(shownTop(row)) - line, width(), int(std::ceil(row.height)) + line);
 }
 
 void PaletteList::paintEvent(QPaintEvent* event) {
@@ -433,8 +432,8 @@ void PaletteList::settleDragImage() {
         const auto& swatch = std::get<PaletteDragController::SwatchItem>(*m_lifted);
         element = {Part::Swatch, swatch.paletteId, swatch.scaleId, swatch.swatchId};
         // It may be in another scale now.
-        if (const auto palette = m_model.palette(swatch.paletteId)) {
-            for (const PaletteScale& other : palette->scales()) {
+        if (const auto holder = m_model.palette(swatch.paletteId)) {
+            for (const PaletteScale& other : holder->scales()) {
                 if (indexOfId(other.swatches(), swatch.swatchId) >= 0)
                     element.scaleId = other.id();
             }

@@ -63,7 +63,9 @@ public:
     [[nodiscard]] QWidget* makeAnchor(const ListElement& element);
 
     /// Takes the Tab keys: true where it has moved the keyboard within the list.
-    void setTabHandler(std::function<bool(bool next)> handler) { m_tabHandler = std::move(handler); }
+    void setTabHandler(std::function<bool(bool next)> handler) {
+        m_tabHandler = std::move(handler);
+    }
 
     [[nodiscard]] QSize sizeHint() const override;
 

@@ -39,8 +39,8 @@ ScaleRowWidget::ScaleRowWidget(const Look& look, PalettesModel& model, QWidget* 
 
 ScaleRowWidget::~ScaleRowWidget() = default;
 
-void ScaleRowWidget::display(QUuid paletteId, const PaletteScale& scale, const ListMeasures& measures,
-                          Motion motion) {
+void ScaleRowWidget::display(QUuid paletteId, const PaletteScale& scale,
+                             const ListMeasures& measures, Motion motion) {
     const bool isOther = m_scale.id() != scale.id() || m_measures != measures;
     m_paletteId = paletteId;
     m_scale = scale;
@@ -137,8 +137,7 @@ QRectF ScaleRowWidget::slotArea(const QUuid& id) const {
 
 QRectF ScaleRowWidget::pillArea() const {
     const QRectF label = m_measures.labelArea();
-    const double text =
-        QFontMetricsF(textFont(TextStyle::Body)).horizontalAdvance(m_scale.name());
+    const double text = QFontMetricsF(textFont(TextStyle::Body)).horizontalAdvance(m_scale.name());
     const double left = m_measures.isCompact ? compactPillLeft : pillLeft;
     const double right = std::min(label.left() + text + pillPadding, label.right());
     const double height = std::min(pillHeight, std::max(label.height(), m_measures.textLine));

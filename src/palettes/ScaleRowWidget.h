@@ -22,7 +22,7 @@ public:
     enum class Motion { Jumps, Springs };
 
     void display(QUuid paletteId, const PaletteScale& scale, const ListMeasures& measures,
-              Motion motion);
+                 Motion motion);
 
     /// The row is where the dragged swatch would go.
     void setDropTarget(bool isTarget);

@@ -46,8 +46,9 @@ void drawSpine(QPainter& painter, const QRectF& area, const QList<PaletteSwatch>
     painter.setClipPath(outline, Qt::IntersectClip);
     const double chip = area.width() / double(swatches.size());
     for (qsizetype index = 0; index < swatches.size(); ++index)
-        painter.fillRect(QRectF(area.left() + chip * double(index), area.top(), chip, area.height()),
-                         screenColor(swatches.at(index).color()));
+        painter.fillRect(
+            QRectF(area.left() + chip * double(index), area.top(), chip, area.height()),
+            screenColor(swatches.at(index).color()));
     painter.restore();
     strokeEdge(painter, area, metrics::radiusCell, theme.lineSwatch);
 }
