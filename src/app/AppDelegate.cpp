@@ -50,7 +50,7 @@ AppDelegate::AppDelegate(Platform platform)
       m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
-      m_statusMenu(*m_platform.statusItem),
+      m_statusMenu(*m_platform.statusItem, menuSources()),
       m_paletteExporter(*m_platform.scheduler, *m_platform.filePanels, *m_platform.alerts) {}
 
 AppDelegate::~AppDelegate() = default;
@@ -66,12 +66,42 @@ void AppDelegate::applicationDidFinishLaunching() {
             &AppDelegate::updateStatusIcon);
     connect(m_platform.instance.get(), &ApplicationInstance::activated, &m_statusMenu,
             &StatusMenu::show);
-    connect(&m_statusMenu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
-    connect(&m_statusMenu, &StatusMenu::quitClicked, this, &AppDelegate::quitRequested);
-    m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay,
-                                                [this] { static_cast<void>(paletteStore()); });
+    connectMenu();
+    connect(&m_settings, &AppSettings::iCloudSyncEnabledDidChange, this, &AppDelegate::setSyncing);
+    m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay, [this] { loadPalettes(); });
     if (UpdateService::automaticallyChecksForUpdates(*m_platform.defaults))
         updateService();
+}
+
+StatusMenu::Sources AppDelegate::menuSources() {
+    return {*m_platform.defaults, m_settings, m_shortcuts,
+            [this]() -> const QList<Palette>& { return paletteStore().palettes(); },
+            [this]() -> const Look& { return look(); }};
+}
+
+void AppDelegate::connectMenu() {
+    const StatusMenu* menu = &m_statusMenu;
+    connect(menu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
+    connect(menu, &StatusMenu::openColorPicker, this, &AppDelegate::openColorPicker);
+    connect(menu, &StatusMenu::openPalettes, this, &AppDelegate::openPalettes);
+    connect(menu, &StatusMenu::openContrast, this, &AppDelegate::openContrast);
+    connect(menu, &StatusMenu::openNewPaletteFromImageMenu, this,
+            [this] { openNewPaletteFromImage(); });
+    connect(menu, &StatusMenu::openNewPaletteFromFileMenu, this,
+            [this] { openNewPaletteFromFile(); });
+    connect(menu, &StatusMenu::openNewPaletteFromPresetMenu, this,
+            [this] { openNewPaletteFromPreset(); });
+    connect(menu, &StatusMenu::pinnedColorClicked, this,
+            [this](const PinnedColor& pin) { copyRemembered(pin.cachedColor()); });
+    connect(menu, &StatusMenu::recentColorClicked, this,
+            [this](const RecentColor& recent) { copyRemembered(recent.color()); });
+    connect(menu, &StatusMenu::clearRecentColors, this,
+            [this] { saveRecentColors(*m_platform.defaults, {}); });
+    connect(menu, &StatusMenu::openSettings, this, &AppDelegate::openSettings);
+    connect(menu, &StatusMenu::openAbout, this, &AppDelegate::openAbout);
+    connect(menu, &StatusMenu::checkForUpdates, this,
+            [this] { updateService().checkForUpdates(); });
+    connect(menu, &StatusMenu::quitApp, this, &AppDelegate::quitRequested);
 }
 
 void AppDelegate::registerShortcuts() {
@@ -98,6 +128,11 @@ void AppDelegate::applicationWillTerminate() {
         m_paletteStore->flushPendingSave();
     if (m_settings.hasPendingPins())
         m_settings.flushPendingPins();
+    // What has just been saved goes out with the rest.
+    if (m_syncEngine) {
+        m_syncEngine->flushPendingPushes();
+        m_platform.cloudStore->close();
+    }
     // Qt may wait for a clipboard manager that is slow to take the text over; nothing of the
     // program should be seen meanwhile.
     m_platform.statusItem->setIcon(QIcon());
@@ -115,6 +150,35 @@ UserPaletteStore& AppDelegate::paletteStore() {
         m_paletteStore = std::make_unique<UserPaletteStore>(
             *m_platform.defaults, *m_platform.scheduler, m_settings, m_presets);
     return *m_paletteStore;
+}
+
+/// Sync needs the palettes, so it starts with them and not before the icon is up.
+void AppDelegate::loadPalettes() {
+    static_cast<void>(paletteStore());
+    if (m_settings.iCloudSyncEnabled())
+        setSyncing(true);
+}
+
+CloudSyncEngine& AppDelegate::syncEngine() {
+    if (!m_syncEngine)
+        m_syncEngine = std::make_unique<CloudSyncEngine>(
+            CloudSyncEngine::Surroundings{*m_platform.cloudStore, *m_platform.defaults,
+                                          *m_platform.scheduler, m_settings, paletteStore()});
+    return *m_syncEngine;
+}
+
+void AppDelegate::setSyncing(bool enabled) {
+    if (enabled)
+        syncEngine().start();
+    else if (m_syncEngine)
+        m_syncEngine->stop();
+}
+
+void AppDelegate::syncAccountDidChange() {
+    if (m_syncEngine && m_syncEngine->isStarted()) {
+        m_syncEngine->stop();
+        m_syncEngine->start();
+    }
 }
 
 void AppDelegate::statusItemClicked(const StatusItemClick& click) {
@@ -156,12 +220,20 @@ void AppDelegate::finishPick(const std::optional<SRGBColor>& color) {
 void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> format) {
     countCopy();
     UserDefaults& defaults = *m_platform.defaults;
-    const std::string text =
-        formatted(color, format.value_or(colorFormat(defaults)), formatOptions(defaults));
-    m_platform.pasteboard->setText(QString::fromStdString(text));
+    putOnPasteboard(color, format.value_or(colorFormat(defaults)));
     if (showRecentColors(defaults) && recentColorsLimit(defaults) >= 1)
         recordRecentColor(defaults, color);
     m_soundService.play();
+}
+
+void AppDelegate::copyRemembered(const SRGBColor& color) {
+    putOnPasteboard(color, colorFormat(*m_platform.defaults));
+    m_soundService.play();
+}
+
+void AppDelegate::putOnPasteboard(const SRGBColor& color, ColorFormat format) {
+    const std::string text = formatted(color, format, formatOptions(*m_platform.defaults));
+    m_platform.pasteboard->setText(QString::fromStdString(text));
 }
 
 const Look& AppDelegate::look() {

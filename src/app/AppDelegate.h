@@ -14,6 +14,7 @@
 #include "interchange/PaletteImporter.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
+#include "sync/CloudSyncEngine.h"
 #include "widgets/Look.h"
 
 #include <QObject>
@@ -81,6 +82,15 @@ public:
 
     PaletteExporter& paletteExporter() { return m_paletteExporter; }
 
+    /// Comes into being at the first call; started where the settings say so.
+    CloudSyncEngine& syncEngine();
+
+    /// The settings have another account, or another password of it, for sync to use from now on.
+    void syncAccountDidChange();
+
+    /// What a window needs to set up that account.
+    CloudAccounts& cloudAccounts() { return *m_platform.cloudAccounts; }
+
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
 
@@ -89,13 +99,20 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    [[nodiscard]] StatusMenu::Sources menuSources();
+    void connectMenu();
     void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
     void pickShortcutReleased();
     void updateStatusIcon();
+    void loadPalettes();
+    void setSyncing(bool enabled);
     void finishPick(const std::optional<SRGBColor>& color);
     void countCopy();
+    /// Copies a colour that the menu keeps: it counts for nothing and is no newer for it.
+    void copyRemembered(const SRGBColor& color);
+    void putOnPasteboard(const SRGBColor& color, ColorFormat format);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
 
     Platform m_platform;
@@ -104,6 +121,7 @@ private:
     KeyboardShortcuts m_shortcuts;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;
+    std::unique_ptr<CloudSyncEngine> m_syncEngine;
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
     StatusMenu m_statusMenu;
