@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "palettes/SwatchPopover.h"
 
+#include "ColorSelector/SelectorPanel.h"
 #include "palettes/PopoverButtons.h"
 #include "palettes/SwatchPainting.h"
 #include "widgets/ColorWell.h"
@@ -17,12 +18,16 @@ namespace dropshade {
 namespace {
 
 constexpr int wellSide = 32;
+constexpr int selectorHeight = 176;
+/// Behind the label, its gap and the field.
+constexpr int selectorPlace = 3;
 
 } // namespace
 
 SwatchPopover::SwatchPopover(const Look& look, QWidget& anchor, std::unique_ptr<SwatchEdit> edit)
     : Popover(look, anchor), m_edit(std::move(edit)) {
     auto* column = new QVBoxLayout(content());
+    m_column = column;
     column->setContentsMargins(metrics::space16, metrics::space16, metrics::space16,
                                metrics::space16);
     column->setSpacing(0);
@@ -69,8 +74,7 @@ void SwatchPopover::addValueRow(QVBoxLayout& column) {
     row->addWidget(m_value);
     column.addLayout(row);
     connect(m_value, &QLineEdit::textEdited, m_edit.get(), &SwatchEdit::typeValue);
-    connect(m_edit.get(), &SwatchEdit::colorDidChange, this,
-            [this] { m_well->setColor(screenColor(m_edit->color())); });
+    connect(m_edit.get(), &SwatchEdit::colorDidChange, this, &SwatchPopover::followColor);
     connect(m_edit.get(), &SwatchEdit::valueTextDidChange, this,
             [this] { m_value->setText(m_edit->valueText()); });
     connect(m_edit.get(), &SwatchEdit::isInvalidDidChange, this,
@@ -92,7 +96,35 @@ void SwatchPopover::addNameRow(QVBoxLayout& column) {
     connect(m_name, &QLineEdit::textEdited, m_edit.get(), &SwatchEdit::typeLabel);
 }
 
-void SwatchPopover::toggleSelector() {}
+/// The selectors open beneath the field, so that the value stays in view.
+void SwatchPopover::toggleSelector() {
+    if (m_selector) {
+        m_selector->setVisible(!m_selector->isVisible());
+    } else {
+        m_selector = new SelectorPanel(look(), SelectorPanel::Parts::WithoutAlpha, metrics::space8,
+                                       content());
+        m_selector->setMinimumSize(popoverFieldWidth, selectorHeight);
+        m_column->insertWidget(selectorPlace, m_selector);
+        connect(m_selector, &SelectorPanel::componentsChanged, this,
+                [this](const HSBComponents& components) {
+                    m_edit->pickColor(hsbToSRGB(components.hue, components.saturation,
+                                                components.brightness, 1.0));
+                });
+    }
+    m_selector->setComponents(hsbComponents(m_edit->color()));
+    m_well->setOpen(m_selector->isVisible());
+}
+
+void SwatchPopover::followColor() {
+    m_well->setColor(screenColor(m_edit->color()));
+    // What the user is dragging has the hue that a grey has lost.
+    const HSBComponents shown = hsbComponents(m_edit->color());
+    const bool isOther =
+        m_selector && hsbToSRGB(m_selector->components().hue, m_selector->components().saturation,
+                                m_selector->components().brightness, 1.0) != m_edit->color();
+    if (isOther)
+        m_selector->setComponents(shown);
+}
 
 void SwatchPopover::commit() {
     m_edit->add();

@@ -12,6 +12,7 @@ class QVBoxLayout;
 namespace dropshade {
 
 class ColorWell;
+class SelectorPanel;
 class TextField;
 
 /// Makes or changes a swatch: a colour well, its value as text, a name. A change takes effect while
@@ -31,6 +32,7 @@ private:
     void addNameRow(QVBoxLayout& column);
     void addLabel(QVBoxLayout& column, const QString& words);
     void toggleSelector();
+    void followColor();
     void cancel();
     void commit();
 
@@ -38,7 +40,8 @@ private:
     ColorWell* m_well = nullptr;
     TextField* m_value = nullptr;
     TextField* m_name = nullptr;
-    QWidget* m_selector = nullptr;
+    QVBoxLayout* m_column = nullptr;
+    SelectorPanel* m_selector = nullptr;
 };
 
 } // namespace dropshade
