@@ -78,9 +78,11 @@ void ListKeys::enter(bool fromEnd) {
 
 bool ListKeys::tab(bool next) {
     const auto row = m_list.rowOf(m_current);
-    if (!row)
-        return false;
-    return goToRow(*row + (next ? 1 : -1), 0);
+    if (row)
+        return goToRow(*row + (next ? 1 : -1), 0);
+    if (next)
+        enter(false);
+    return next && !current().isNone();
 }
 
 bool ListKeys::goToRow(qsizetype row, qsizetype place) {

@@ -18,7 +18,6 @@ namespace dropshade {
 namespace {
 
 constexpr int wellSide = 32;
-constexpr int selectorHeight = 176;
 /// Behind the label, its gap and the field.
 constexpr int selectorPlace = 3;
 
@@ -103,7 +102,7 @@ void SwatchPopover::toggleSelector() {
     } else {
         m_selector = new SelectorPanel(look(), SelectorPanel::Parts::WithoutAlpha, metrics::space8,
                                        content());
-        m_selector->setMinimumSize(popoverFieldWidth, selectorHeight);
+        m_selector->setFixedHeight(m_selector->sizeHint().height() + metrics::space4);
         m_column->insertWidget(selectorPlace, m_selector);
         connect(m_selector, &SelectorPanel::componentsChanged, this,
                 [this](const HSBComponents& components) {

@@ -47,17 +47,18 @@ protected:
     void click(const ListElement& element, Qt::KeyboardModifiers modifiers = {}) {
         QTest::mouseClick(&list(), Qt::LeftButton, modifiers, center(element));
     }
-    void hover(const QPoint& point) { QTest::mouseMove(&list(), point); }
+    void hover(const QPoint& point) { move(point, Qt::NoButton); }
     void drag(const QPoint& from, const QList<QPoint>& way) {
         QTest::mousePress(&list(), Qt::LeftButton, {}, from);
         for (const QPoint& point : way)
             dragTo(point);
         QTest::mouseRelease(&list(), Qt::LeftButton, {}, way.last());
     }
-    void dragTo(const QPoint& point) {
-        QMouseEvent move(QEvent::MouseMove, QPointF(point), list().mapToGlobal(QPointF(point)),
-                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&list(), &move);
+    void dragTo(const QPoint& point) { move(point, Qt::LeftButton); }
+    void move(const QPoint& point, Qt::MouseButtons buttons) {
+        QMouseEvent event(QEvent::MouseMove, QPointF(point), list().mapToGlobal(QPointF(point)),
+                          Qt::NoButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&list(), &event);
     }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(&list(), key, modifiers);

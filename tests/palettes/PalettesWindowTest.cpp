@@ -329,7 +329,8 @@ TEST_F(Window, AMoveWithinASwatchRepaintsNothing) {
 // Keys
 
 TEST_F(Window, ArrowsGoThroughRowsAndReturnCopies) {
-    list().setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Down);
+    EXPECT_EQ(window().keys().current(), header(seaId()));
     key(Qt::Key_Down);
     key(Qt::Key_Right);
     key(Qt::Key_Right);
@@ -339,7 +340,6 @@ TEST_F(Window, ArrowsGoThroughRowsAndReturnCopies) {
 }
 
 TEST_F(Window, AltWithAnArrowMovesASwatchAndTheKeyboardGoesAlong) {
-    list().setFocus(Qt::TabFocusReason);
     window().keys().setCurrent(swatch(0, 0));
     key(Qt::Key_Right, Qt::AltModifier);
     EXPECT_EQ(values(0), QStringLiteral("blue navy aqua"));
@@ -351,7 +351,6 @@ TEST_F(Window, AltWithAnArrowMovesASwatchAndTheKeyboardGoesAlong) {
 }
 
 TEST_F(Window, AltWithAnArrowMovesScalesAndPalettes) {
-    list().setFocus(Qt::TabFocusReason);
     window().keys().setCurrent(label(0));
     key(Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(scaleNames(), QStringLiteral("Shore Deep"));
@@ -361,7 +360,7 @@ TEST_F(Window, AltWithAnArrowMovesScalesAndPalettes) {
 }
 
 TEST_F(Window, TabGoesFromRowToRowAndOutAtTheEnd) {
-    list().setFocus(Qt::TabFocusReason);
+    key(Qt::Key_Tab);
     EXPECT_EQ(window().keys().current(), header(seaId()));
     key(Qt::Key_Tab);
     EXPECT_EQ(window().keys().current(), label(0));
@@ -373,7 +372,6 @@ TEST_F(Window, TabGoesFromRowToRowAndOutAtTheEnd) {
 }
 
 TEST_F(Window, DeleteAsksAndShiftDeleteDoesNot) {
-    list().setFocus(Qt::TabFocusReason);
     window().keys().setCurrent(swatch(0, 1));
     key(Qt::Key_Delete);
     ASSERT_TRUE(shown<AlertWindow>());
