@@ -58,7 +58,9 @@ bool ListKeys::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     case QEvent::FocusOut:
-        hideRing();
+        // What opens over the list belongs to what has the ring.
+        if (static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason)
+            hideRing();
         break;
     default:
         break;

@@ -224,11 +224,11 @@ void PalettesWindow::addSwatch(const QUuid& paletteId, const QUuid& scaleId) {
 
 void PalettesWindow::editSwatch(const SwatchPath& path) {
     const ListElement element{Part::Swatch, path.paletteId, path.scaleId, path.swatchId};
-    m_list->setFocused(element);
     openPopover(element, [&](QWidget& anchor) -> Popover* {
         auto edit = m_model.makeSwatchEdit(path);
         return edit ? new SwatchPopover(look(), anchor, std::move(edit)) : nullptr;
     });
+    m_list->setFocused(element);
 }
 
 void PalettesWindow::showMenu(const ListElement& element, const QPoint& at) {

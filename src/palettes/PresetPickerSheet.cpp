@@ -40,6 +40,7 @@ PresetPickerSheet::~PresetPickerSheet() = default;
 
 void PresetPickerSheet::build(const Look& look) {
     auto* column = new QVBoxLayout(panel());
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     const auto addLabel = [&](const QString& words) {
         column->addWidget(
