@@ -3,7 +3,6 @@
 #include "app/AppDelegate.h"
 
 #include "app/LegacyPreferences.h"
-#include "app/RecentColor.h"
 #include "app/SettingsReaders.h"
 #include "widgets/Theme.h"
 #include "widgets/TintedIcon.h"
@@ -56,6 +55,7 @@ AppDelegate::AppDelegate(Platform platform)
       m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
+      m_copier(*m_platform.defaults, *m_platform.pasteboard, m_soundService),
       m_statusMenu(*m_platform.statusItem, menuSources()),
       m_paletteExporter(*m_platform.scheduler, *m_platform.filePanels, *m_platform.alerts) {}
 
@@ -102,10 +102,11 @@ void AppDelegate::connectMenu() {
             [this] { openNewPaletteFromFile(); });
     connect(menu, &StatusMenu::openNewPaletteFromPresetMenu, this,
             [this] { openNewPaletteFromPreset(); });
+    // A colour that the menu keeps counts for nothing, and is no newer for a copy.
     connect(menu, &StatusMenu::pinnedColorClicked, this,
-            [this](const PinnedColor& pin) { copyRemembered(pin.cachedColor()); });
+            [this](const PinnedColor& pin) { m_copier.copy(pin.cachedColor()); });
     connect(menu, &StatusMenu::recentColorClicked, this,
-            [this](const RecentColor& recent) { copyRemembered(recent.color()); });
+            [this](const RecentColor& recent) { m_copier.copy(recent.color()); });
     connect(menu, &StatusMenu::clearRecentColors, this,
             [this] { saveRecentColors(*m_platform.defaults, {}); });
     connect(menu, &StatusMenu::openSettings, this, &AppDelegate::openSettings);
@@ -251,22 +252,7 @@ void AppDelegate::finishPick(const std::optional<SRGBColor>& color) {
 }
 
 void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> format) {
-    countCopy();
-    UserDefaults& defaults = *m_platform.defaults;
-    putOnPasteboard(color, format.value_or(colorFormat(defaults)));
-    if (showRecentColors(defaults) && recentColorsLimit(defaults) >= 1)
-        recordRecentColor(defaults, color);
-    m_soundService.play();
-}
-
-void AppDelegate::copyRemembered(const SRGBColor& color) {
-    putOnPasteboard(color, colorFormat(*m_platform.defaults));
-    m_soundService.play();
-}
-
-void AppDelegate::putOnPasteboard(const SRGBColor& color, ColorFormat format) {
-    const std::string text = formatted(color, format, formatOptions(*m_platform.defaults));
-    m_platform.pasteboard->setText(QString::fromStdString(text));
+    m_copier.copyAndRecord(color, format);
 }
 
 const Look& AppDelegate::look() {
@@ -284,11 +270,6 @@ UpdateService& AppDelegate::updateService() {
             VersionNumber::parse(QCoreApplication::applicationVersion()).value_or(VersionNumber()));
     }
     return *m_updateService;
-}
-
-void AppDelegate::countCopy() {
-    const qint64 count = m_platform.defaults->read<qint64>(keys::totalChecksCount).value_or(0);
-    m_platform.defaults->setValue(keys::totalChecksCount, count + 1);
 }
 
 } // namespace dropshade

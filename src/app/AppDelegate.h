@@ -4,6 +4,7 @@
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "app/AppSettings.h"
+#include "app/ColorCopier.h"
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
@@ -113,10 +114,6 @@ private:
     void loadPalettes();
     void setSyncing(bool enabled);
     void finishPick(const std::optional<SRGBColor>& color);
-    void countCopy();
-    /// Copies a colour that the menu keeps: it counts for nothing and is no newer for it.
-    void copyRemembered(const SRGBColor& color);
-    void putOnPasteboard(const SRGBColor& color, ColorFormat format);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
 
     Platform m_platform;
@@ -128,6 +125,7 @@ private:
     std::unique_ptr<CloudSyncEngine> m_syncEngine;
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
+    ColorCopier m_copier;
     StatusMenu m_statusMenu;
     PaletteExporter m_paletteExporter;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
