@@ -190,15 +190,24 @@ class VirtualDesktop(PrivateSession):
         return status != X.GrabSuccess
 
     def open_menu(self):
-        """The rectangle of an open menu or other unmanaged window of a Qt program, or None."""
+        """The rectangle of the first open menu, or None."""
+        return next(iter(self.open_menus()), None)
+
+    def open_menus(self):
+        """The rectangles of menus and other unmanaged windows of Qt programs, lowest first."""
+        menus = []
         for child in self.root.query_tree().children:
             try:
                 shown = child.get_attributes().map_state == X.IsViewable
                 if shown and child.get_wm_protocols() and child.get_wm_class():
+<<<<<<< HEAD
                     return self.rectangle_of(child)
+=======
+                    menus.append(self._rectangle(child))
+>>>>>>> main
             except error.XError:
                 continue
-        return None
+        return menus
 
     def wait_for_menu(self):
         """An open menu that has the keyboard. To ask the server who has it would be to take it away

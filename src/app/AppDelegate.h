@@ -45,6 +45,9 @@ public:
     /// Samples the screen and copies the colour. Does nothing while a sample is up.
     void startPick();
 
+    /// The same from anywhere: the menu, if it is open, is off the screen first.
+    void startPickFromAnywhere();
+
     // The windows, each built at its first use and brought to the front at every one.
 
     void openColorPicker();
@@ -106,8 +109,9 @@ private:
     void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
-    void pickShortcutReleased();
+    void performAction(ApplicationAction action);
     void updateStatusIcon();
+    void explainMissingStatusArea();
     void loadPalettes();
     void setSyncing(bool enabled);
     void finishPick(const std::optional<SRGBColor>& color);
@@ -143,6 +147,8 @@ private:
     std::unique_ptr<ScheduledWork> m_presetRequest;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
     std::unique_ptr<ScheduledWork> m_paletteLoad;
+    /// Waits for a status area to come up, as long as there is none.
+    std::unique_ptr<ScheduledWork> m_hostWait;
     bool m_isPicking = false;
 };
 
