@@ -19,6 +19,8 @@ LittleCms loaded() {
         .resolve("cmsDeleteTransform", lcms.deleteTransform)
         .resolve("cmsDoTransform", lcms.doTransform)
         .resolve("cmsGetColorSpace", lcms.getColorSpace)
+        .resolve("cmsIsMatrixShaper", lcms.isMatrixShaper)
+        .resolve("cmsIsTag", lcms.isTag)
         .resolve("cmsOpenProfileFromMem", lcms.openProfileFromMem);
     return library.isWhole() ? lcms : LittleCms();
 }
