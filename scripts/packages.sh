@@ -9,7 +9,8 @@ build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev
     libgs-common wl-clipboard qt6-image-formats-plugins"
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth python3 python3-xlib fonts-dejavu-core"
 test_packages="libgtest-dev libgmock-dev libxcb-xtest0-dev python3-dbus python3-gi chromium
-    poppler-utils x11-xkb-utils sway xdg-desktop-portal x11-xserver-utils pulseaudio pulseaudio-utils clang-format-14 git openssl locales etcd-server"
+    poppler-utils x11-xkb-utils sway xdg-desktop-portal x11-xserver-utils
+    pulseaudio pulseaudio-utils clang-format-14 git openssl locales etcd-server"
 
 say() { printf '%s\n' "$*"; }
 
