@@ -200,11 +200,7 @@ class VirtualDesktop(PrivateSession):
             try:
                 shown = child.get_attributes().map_state == X.IsViewable
                 if shown and child.get_wm_protocols() and child.get_wm_class():
-<<<<<<< HEAD
-                    return self.rectangle_of(child)
-=======
-                    menus.append(self._rectangle(child))
->>>>>>> main
+                    menus.append(self.rectangle_of(child))
             except error.XError:
                 continue
         return menus

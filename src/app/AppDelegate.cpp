@@ -129,11 +129,8 @@ void AppDelegate::registerShortcuts() {
 void AppDelegate::applicationWillTerminate() {
     m_pickAfterMenu.reset();
     m_paletteLoad.reset();
-<<<<<<< HEAD
     m_presetRequest.reset();
-=======
     m_hostWait.reset();
->>>>>>> main
     // The store first: its save may bring the pins in line.
     if (m_paletteStore && m_paletteStore->hasPendingSave())
         m_paletteStore->flushPendingSave();
