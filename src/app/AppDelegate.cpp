@@ -129,6 +129,7 @@ void AppDelegate::registerShortcuts() {
 void AppDelegate::applicationWillTerminate() {
     m_pickAfterMenu.reset();
     m_paletteLoad.reset();
+    m_presetRequest.reset();
     m_hostWait.reset();
     // The store first: its save may bring the pins in line.
     if (m_paletteStore && m_paletteStore->hasPendingSave())
