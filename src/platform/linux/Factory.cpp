@@ -9,7 +9,6 @@
 #include "platform/linux/NullHotKeyRegistrar.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalScreenSampler.h"
-#include "platform/linux/QtAlerts.h"
 #include "platform/linux/QtFilePanels.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
@@ -70,7 +69,6 @@ Platform makePlatform() {
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
     platform.filePanels = std::make_unique<QtFilePanels>();
-    platform.alerts = std::make_unique<QtAlerts>();
     platform.loginItem = std::make_unique<AutostartLoginItem>(AutostartLoginItem::ofSession());
     return platform;
 }
