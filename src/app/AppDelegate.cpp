@@ -68,8 +68,8 @@ void AppDelegate::applicationDidFinishLaunching() {
             &StatusMenu::show);
     connect(&m_statusMenu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
     connect(&m_statusMenu, &StatusMenu::quitClicked, this, &AppDelegate::quitRequested);
-    m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay,
-                                                [this] { static_cast<void>(paletteStore()); });
+    connect(&m_settings, &AppSettings::iCloudSyncEnabledDidChange, this, &AppDelegate::setSyncing);
+    m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay, [this] { loadPalettes(); });
     if (UpdateService::automaticallyChecksForUpdates(*m_platform.defaults))
         updateService();
 }
@@ -98,6 +98,11 @@ void AppDelegate::applicationWillTerminate() {
         m_paletteStore->flushPendingSave();
     if (m_settings.hasPendingPins())
         m_settings.flushPendingPins();
+    // What has just been saved goes out with the rest.
+    if (m_syncEngine) {
+        m_syncEngine->flushPendingPushes();
+        m_platform.cloudStore->close();
+    }
     // Qt may wait for a clipboard manager that is slow to take the text over; nothing of the
     // program should be seen meanwhile.
     m_platform.statusItem->setIcon(QIcon());
@@ -115,6 +120,35 @@ UserPaletteStore& AppDelegate::paletteStore() {
         m_paletteStore = std::make_unique<UserPaletteStore>(
             *m_platform.defaults, *m_platform.scheduler, m_settings, m_presets);
     return *m_paletteStore;
+}
+
+/// Sync needs the palettes, so it starts with them and not before the icon is up.
+void AppDelegate::loadPalettes() {
+    static_cast<void>(paletteStore());
+    if (m_settings.iCloudSyncEnabled())
+        setSyncing(true);
+}
+
+CloudSyncEngine& AppDelegate::syncEngine() {
+    if (!m_syncEngine)
+        m_syncEngine = std::make_unique<CloudSyncEngine>(
+            CloudSyncEngine::Surroundings{*m_platform.cloudStore, *m_platform.defaults,
+                                          *m_platform.scheduler, m_settings, paletteStore()});
+    return *m_syncEngine;
+}
+
+void AppDelegate::setSyncing(bool enabled) {
+    if (enabled)
+        syncEngine().start();
+    else if (m_syncEngine)
+        m_syncEngine->stop();
+}
+
+void AppDelegate::syncAccountDidChange() {
+    if (m_syncEngine && m_syncEngine->isStarted()) {
+        m_syncEngine->stop();
+        m_syncEngine->start();
+    }
 }
 
 void AppDelegate::statusItemClicked(const StatusItemClick& click) {

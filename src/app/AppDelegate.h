@@ -14,6 +14,7 @@
 #include "interchange/PaletteImporter.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
+#include "sync/CloudSyncEngine.h"
 #include "widgets/Look.h"
 
 #include <QObject>
@@ -81,6 +82,15 @@ public:
 
     PaletteExporter& paletteExporter() { return m_paletteExporter; }
 
+    /// Comes into being at the first call; started where the settings say so.
+    CloudSyncEngine& syncEngine();
+
+    /// The settings have another account, or another password of it, for sync to use from now on.
+    void syncAccountDidChange();
+
+    /// What a window needs to set up that account.
+    CloudAccounts& cloudAccounts() { return *m_platform.cloudAccounts; }
+
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
 
@@ -94,6 +104,8 @@ private:
     void pickColorClicked();
     void pickShortcutReleased();
     void updateStatusIcon();
+    void loadPalettes();
+    void setSyncing(bool enabled);
     void finishPick(const std::optional<SRGBColor>& color);
     void countCopy();
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
@@ -104,6 +116,7 @@ private:
     KeyboardShortcuts m_shortcuts;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;
+    std::unique_ptr<CloudSyncEngine> m_syncEngine;
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
     StatusMenu m_statusMenu;

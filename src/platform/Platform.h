@@ -4,6 +4,8 @@
 
 #include "platform/Alerts.h"
 #include "platform/ApplicationInstance.h"
+#include "platform/CloudAccount.h"
+#include "platform/CloudKeyValueStore.h"
 #include "platform/DesktopAppearance.h"
 #include "platform/FeedFetcher.h"
 #include "platform/FilePanels.h"
@@ -34,6 +36,8 @@ struct Platform {
     std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<SoundPlayer> soundPlayer;
     std::unique_ptr<FeedFetcher> feedFetcher;
+    std::unique_ptr<CloudKeyValueStore> cloudStore;
+    std::unique_ptr<CloudAccounts> cloudAccounts;
     std::unique_ptr<FilePanels> filePanels;
     std::unique_ptr<Alerts> alerts;
     std::unique_ptr<LoginItem> loginItem;

@@ -6,6 +6,7 @@
 #include "support/FakeAlerts.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeApplicationInstance.h"
+#include "support/FakeCloudAccounts.h"
 #include "support/FakeFeedFetcher.h"
 #include "support/FakeFilePanels.h"
 #include "support/FakeHotKeyRegistrar.h"
@@ -16,6 +17,7 @@
 #include "support/FakeSoundPlayer.h"
 #include "support/FakeStatusItem.h"
 #include "support/ManualScheduler.h"
+#include "support/MemoryCloudStore.h"
 #include "support/MemoryDefaults.h"
 
 namespace dropshade {
@@ -34,6 +36,8 @@ struct FakePlatform {
     FakeKeyboardLayout& keyboardLayout = put<FakeKeyboardLayout>(platform.keyboardLayout);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
+    MemoryCloudStore& cloudStore = put<MemoryCloudStore>(platform.cloudStore);
+    FakeCloudAccounts& cloudAccounts = put<FakeCloudAccounts>(platform.cloudAccounts);
     FakeFilePanels& filePanels = put<FakeFilePanels>(platform.filePanels);
     FakeAlerts& alerts = put<FakeAlerts>(platform.alerts);
     FakeLoginItem& loginItem = put<FakeLoginItem>(platform.loginItem);

@@ -13,17 +13,6 @@ namespace {
 /// These numbers are in people's files: never change one.
 enum class StoredType { Boolean = 1, Integer = 2, Real = 3, String = 4, Data = 5, StringList = 6 };
 
-int bindBytes(sqlite3_stmt* statement, int parameter, const QByteArray& bytes) {
-    // constData() is never null, which would make an empty value an absent one.
-    return sqlite3_bind_blob64(statement, parameter, bytes.constData(),
-                               static_cast<sqlite3_uint64>(bytes.size()), SQLITE_TRANSIENT);
-}
-
-QByteArray bytesIn(sqlite3_stmt* statement, int column) {
-    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
-    return QByteArray(bytes, sqlite3_column_bytes(statement, column));
-}
-
 QByteArray unitsOf(const QString& text) {
     QByteArray bytes(text.size() * 2, Qt::Uninitialized);
     qToLittleEndian<char16_t>(text.utf16(), text.size(), bytes.data());
@@ -109,6 +98,17 @@ std::optional<double> realOfBytes(QByteArrayView bytes) {
 }
 
 } // namespace
+
+int bindBytes(sqlite3_stmt* statement, int parameter, const QByteArray& bytes) {
+    // constData() is never null, which would make an empty value an absent one.
+    return sqlite3_bind_blob64(statement, parameter, bytes.constData(),
+                               static_cast<sqlite3_uint64>(bytes.size()), SQLITE_TRANSIENT);
+}
+
+QByteArray bytesIn(sqlite3_stmt* statement, int column) {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
+    return QByteArray(bytes, sqlite3_column_bytes(statement, column));
+}
 
 int bindText(sqlite3_stmt* statement, int parameter, const QString& text) {
     if (!text.isValidUtf16() || text.startsWith(QChar(QChar::ByteOrderMark))) {

@@ -13,6 +13,10 @@ namespace dropshade {
 /// bits, least significant first: a real that is no number, and a string that is not well-formed
 /// or begins with a byte order mark.
 
+/// Binds bytes, also none, which are not an absent value.
+[[nodiscard]] int bindBytes(sqlite3_stmt* statement, int parameter, const QByteArray& bytes);
+[[nodiscard]] QByteArray bytesIn(sqlite3_stmt* statement, int column);
+
 /// Binds `text` exactly; the result is SQLite's code.
 [[nodiscard]] int bindText(sqlite3_stmt* statement, int parameter, const QString& text);
 

@@ -3,6 +3,7 @@
 #include "platform/linux/Factory.h"
 
 #include "platform/linux/AutostartLoginItem.h"
+#include "platform/linux/CloudFactory.h"
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
@@ -68,6 +69,8 @@ Platform makePlatform() {
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
+    platform.cloudStore = makeCloudStore(*platform.defaults, *platform.scheduler);
+    platform.cloudAccounts = makeCloudAccounts();
     platform.filePanels = std::make_unique<QtFilePanels>();
     platform.loginItem = std::make_unique<AutostartLoginItem>(AutostartLoginItem::ofSession());
     return platform;

@@ -13,7 +13,7 @@ SqliteDefaults::SqliteDefaults(const QString& path)
 
 SqliteDefaults::~SqliteDefaults() {
     if (!m_unsaved.empty()) {
-        static_cast<void>(m_database->write(m_unsaved, DefaultsDatabase::deadline()));
+        static_cast<void>(m_database->write(m_unsaved, KeptDatabase::deadline()));
     }
 }
 
@@ -54,7 +54,7 @@ bool SqliteDefaults::change(const QString& key, std::optional<DefaultsValue> val
 }
 
 bool SqliteDefaults::store(const QString& key) {
-    const auto deadline = DefaultsDatabase::deadline();
+    const auto deadline = KeptDatabase::deadline();
     if (m_database->write(m_unsaved, deadline)) {
         m_unsaved.clear();
         return true;
