@@ -3,7 +3,6 @@
 #include "app/AppDelegate.h"
 
 #include "app/LegacyPreferences.h"
-#include "app/RecentColor.h"
 #include "app/SettingsReaders.h"
 #include "widgets/Theme.h"
 #include "widgets/TintedIcon.h"
@@ -50,7 +49,8 @@ AppDelegate::AppDelegate(Platform platform)
       m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
-      m_statusMenu(*m_platform.statusItem),
+      m_copier(*m_platform.defaults, *m_platform.pasteboard, m_soundService),
+      m_statusMenu(*m_platform.statusItem, menuSources()),
       m_paletteExporter(*m_platform.scheduler, *m_platform.filePanels, *m_platform.alerts) {}
 
 AppDelegate::~AppDelegate() = default;
@@ -66,12 +66,43 @@ void AppDelegate::applicationDidFinishLaunching() {
             &AppDelegate::updateStatusIcon);
     connect(m_platform.instance.get(), &ApplicationInstance::activated, &m_statusMenu,
             &StatusMenu::show);
-    connect(&m_statusMenu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
-    connect(&m_statusMenu, &StatusMenu::quitClicked, this, &AppDelegate::quitRequested);
+    connectMenu();
     connect(&m_settings, &AppSettings::iCloudSyncEnabledDidChange, this, &AppDelegate::setSyncing);
     m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay, [this] { loadPalettes(); });
     if (UpdateService::automaticallyChecksForUpdates(*m_platform.defaults))
         updateService();
+}
+
+StatusMenu::Sources AppDelegate::menuSources() {
+    return {*m_platform.defaults, m_settings, m_shortcuts,
+            [this]() -> const QList<Palette>& { return paletteStore().palettes(); },
+            [this]() -> const Look& { return look(); }};
+}
+
+void AppDelegate::connectMenu() {
+    const StatusMenu* menu = &m_statusMenu;
+    connect(menu, &StatusMenu::pickColorClicked, this, &AppDelegate::pickColorClicked);
+    connect(menu, &StatusMenu::openColorPicker, this, &AppDelegate::openColorPicker);
+    connect(menu, &StatusMenu::openPalettes, this, &AppDelegate::openPalettes);
+    connect(menu, &StatusMenu::openContrast, this, &AppDelegate::openContrast);
+    connect(menu, &StatusMenu::openNewPaletteFromImageMenu, this,
+            [this] { openNewPaletteFromImage(); });
+    connect(menu, &StatusMenu::openNewPaletteFromFileMenu, this,
+            [this] { openNewPaletteFromFile(); });
+    connect(menu, &StatusMenu::openNewPaletteFromPresetMenu, this,
+            [this] { openNewPaletteFromPreset(); });
+    // A colour that the menu keeps counts for nothing, and is no newer for a copy.
+    connect(menu, &StatusMenu::pinnedColorClicked, this,
+            [this](const PinnedColor& pin) { m_copier.copy(pin.cachedColor()); });
+    connect(menu, &StatusMenu::recentColorClicked, this,
+            [this](const RecentColor& recent) { m_copier.copy(recent.color()); });
+    connect(menu, &StatusMenu::clearRecentColors, this,
+            [this] { saveRecentColors(*m_platform.defaults, {}); });
+    connect(menu, &StatusMenu::openSettings, this, &AppDelegate::openSettings);
+    connect(menu, &StatusMenu::openAbout, this, &AppDelegate::openAbout);
+    connect(menu, &StatusMenu::checkForUpdates, this,
+            [this] { updateService().checkForUpdates(); });
+    connect(menu, &StatusMenu::quitApp, this, &AppDelegate::quitRequested);
 }
 
 void AppDelegate::registerShortcuts() {
@@ -188,14 +219,7 @@ void AppDelegate::finishPick(const std::optional<SRGBColor>& color) {
 }
 
 void AppDelegate::copyColor(const SRGBColor& color, std::optional<ColorFormat> format) {
-    countCopy();
-    UserDefaults& defaults = *m_platform.defaults;
-    const std::string text =
-        formatted(color, format.value_or(colorFormat(defaults)), formatOptions(defaults));
-    m_platform.pasteboard->setText(QString::fromStdString(text));
-    if (showRecentColors(defaults) && recentColorsLimit(defaults) >= 1)
-        recordRecentColor(defaults, color);
-    m_soundService.play();
+    m_copier.copyAndRecord(color, format);
 }
 
 const Look& AppDelegate::look() {
@@ -213,11 +237,6 @@ UpdateService& AppDelegate::updateService() {
             VersionNumber::parse(QCoreApplication::applicationVersion()).value_or(VersionNumber()));
     }
     return *m_updateService;
-}
-
-void AppDelegate::countCopy() {
-    const qint64 count = m_platform.defaults->read<qint64>(keys::totalChecksCount).value_or(0);
-    m_platform.defaults->setValue(keys::totalChecksCount, count + 1);
 }
 
 } // namespace dropshade

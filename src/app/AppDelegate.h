@@ -4,6 +4,7 @@
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "app/AppSettings.h"
+#include "app/ColorCopier.h"
 #include "app/ColorPickerService.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
@@ -99,6 +100,8 @@ Q_SIGNALS:
     void quitRequested();
 
 private:
+    [[nodiscard]] StatusMenu::Sources menuSources();
+    void connectMenu();
     void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
@@ -107,7 +110,6 @@ private:
     void loadPalettes();
     void setSyncing(bool enabled);
     void finishPick(const std::optional<SRGBColor>& color);
-    void countCopy();
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
 
     Platform m_platform;
@@ -119,6 +121,7 @@ private:
     std::unique_ptr<CloudSyncEngine> m_syncEngine;
     ColorPickerService m_colorPickerService;
     SoundService m_soundService;
+    ColorCopier m_copier;
     StatusMenu m_statusMenu;
     PaletteExporter m_paletteExporter;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;

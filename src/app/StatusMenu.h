@@ -2,25 +2,49 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "app/AppSettings.h"
+#include "app/RecentColor.h"
 #include "platform/StatusItem.h"
+#include "widgets/Icon.h"
+#include "widgets/Look.h"
 
 #include <QElapsedTimer>
-#include <QMenu>
 
+#include <functional>
 #include <memory>
+#include <optional>
+
+class QAction;
 
 namespace dropshade {
 
-/// The menu under the status item, built anew for each time that it opens.
+class Menu;
+class ShortcutMenu;
+
+/// The menu under the status item. It is built anew for each time that it opens, from what is
+/// stored at that moment, and thrown away when it has closed, so that nothing in it needs to be
+/// kept in step.
 class StatusMenu : public QObject {
     Q_OBJECT
 
 public:
-    explicit StatusMenu(StatusItem& statusItem);
+    /// What the menu shows. All of it must outlive the menu.
+    struct Sources {
+        UserDefaults& defaults;
+        AppSettings& settings;
+        KeyboardShortcuts& shortcuts;
+        /// Asked for only where there are favourites.
+        std::function<const QList<Palette>&()> palettes;
+        std::function<const Look&()> look;
+    };
+
+    StatusMenu(StatusItem& statusItem, Sources sources);
     ~StatusMenu() override;
 
     /// Opens the menu at the status item, or at the pointer where the desktop does not tell where
-    /// the item is. A click that has just closed the menu does not open it again.
+    /// the item is. A click that has just closed the menu does not open it again. Pins of palettes
+    /// that are no more go from the settings with it.
     void show();
 
     [[nodiscard]] bool isOpen() const;
@@ -28,14 +52,37 @@ public:
 
 Q_SIGNALS:
     void pickColorClicked();
-    void quitClicked();
+    void openColorPicker();
+    void openPalettes();
+    void openContrast();
+    void openNewPaletteFromImageMenu();
+    void openNewPaletteFromFileMenu();
+    void openNewPaletteFromPresetMenu();
+    void pinnedColorClicked(const dropshade::PinnedColor& pin);
+    void recentColorClicked(const dropshade::RecentColor& color);
+    void clearRecentColors();
+    void openSettings();
+    void openAbout();
+    void checkForUpdates();
+    void quitApp();
 
 private:
-    [[nodiscard]] std::unique_ptr<QMenu> buildMenu();
+    using Row = void (StatusMenu::*)();
+
+    [[nodiscard]] std::unique_ptr<ShortcutMenu> buildMenu();
+    QAction* addRow(Menu& menu, const QString& title, std::optional<Icon> icon, Row row);
+    void addToolRows(ShortcutMenu& menu);
+    void addPaletteRows(ShortcutMenu& menu);
+    void addProgramRows(ShortcutMenu& menu);
+    void makeFavoritesItem(ShortcutMenu& menu);
+    void makeRecentColorsItem(ShortcutMenu& menu);
+    void forgetPinsOfVanishedPalettes(const QList<Palette>& palettes);
+    void menuWillHide();
     [[nodiscard]] QPoint origin(const QSize& menuSize) const;
 
     StatusItem& m_statusItem;
-    std::unique_ptr<QMenu> m_menu;
+    Sources m_sources;
+    std::unique_ptr<ShortcutMenu> m_menu;
     QElapsedTimer m_sinceHidden;
 };
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/PalettePoster.h"
 
+#include "platform/QtColor.h"
+
 #include <QFontDatabase>
 #include <QFontMetricsF>
 
@@ -77,11 +79,6 @@ QColor black(double alpha) {
     return QColor::fromRgbF(0, 0, 0, static_cast<float>(alpha));
 }
 
-QColor fill(const SRGBColor& color) {
-    return QColor::fromRgbF(static_cast<float>(color.red()), static_cast<float>(color.green()),
-                            static_cast<float>(color.blue()), static_cast<float>(color.alpha()));
-}
-
 } // namespace
 
 PalettePoster::PalettePoster(const Palette& palette, const QString& title)
@@ -144,7 +141,7 @@ void PalettePoster::drawScaleName(QPainter& painter, const QString& name, double
 
 void PalettePoster::drawSwatch(QPainter& painter, const PaletteSwatch& swatch,
                                const QRectF& cell) const {
-    painter.fillRect(cell, fill(swatch.color()));
+    painter.fillRect(cell, toQColor(swatch.color()));
     const bool isLightText = swatch.prefersLightText();
     const QString value = cut(trimmedOfBlanks(swatch.value()).toLower(), m_hexFont);
     const QString label = cut(swatch.label().value_or(QString()).trimmed(), m_labelFont);

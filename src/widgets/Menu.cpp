@@ -2,35 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Menu.h"
 
+#include "widgets/ColorImage.h"
 #include "widgets/Metrics.h"
-#include "widgets/Painting.h"
 #include "widgets/RoundedMask.h"
 #include "widgets/TypeScale.h"
 
+#include <QScreen>
 #include <QStyleOption>
 
 namespace dropshade {
 
 namespace {
 
+constexpr int submenuGap = 2;
 constexpr const char* destructiveProperty = "destructive";
 
 } // namespace
-
-QIcon colorImage(const QColor& color, const Theme& theme) {
-    QIcon icon;
-    for (const int ratio : {1, 2}) {
-        const int side = metrics::menuSwatch;
-        QPixmap pixmap(side * ratio, side * ratio);
-        pixmap.setDevicePixelRatio(ratio);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        drawColor(painter, QRectF(0, 0, side, side), metrics::radiusCell, color, theme);
-        painter.end();
-        icon.addPixmap(pixmap);
-    }
-    return icon;
-}
 
 Menu::Menu(const Look& look, QWidget* parent) : QMenu(parent), m_look(look) {
     setStyle(look.style());
@@ -96,8 +83,19 @@ void Menu::resizeEvent(QResizeEvent* event) {
     maskWhereOpaque(*this, metrics::radiusSurface);
 }
 
+void Menu::keepClearOfParent() {
+    // Qt lets a submenu that opens to the left lie over the rows that it came from.
+    const auto* parent = qobject_cast<const Menu*>(parentWidget());
+    if (!parent || !parent->isVisible() || !parent->geometry().intersects(geometry()))
+        return;
+    const int clear = parent->x() - submenuGap - width();
+    if (x() < parent->x() && clear >= screen()->geometry().left())
+        move(clear, y());
+}
+
 void Menu::showEvent(QShowEvent* event) {
     QMenu::showEvent(event);
+    keepClearOfParent();
     maskWhereOpaque(*this, metrics::radiusSurface);
 }
 

@@ -39,12 +39,10 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void keepClearOfParent();
     [[nodiscard]] QIcon image(Icon icon) const;
 
     const Look& m_look;
 };
-
-/// What `Menu::addColorRow` shows: the colour as a rounded square of 20 pixels, at both scales.
-[[nodiscard]] QIcon colorImage(const QColor& color, const Theme& theme);
 
 } // namespace dropshade

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
+#include "app/RecentColor.h"
 #include "app/SettingsReaders.h"
 #include "support/FakePlatform.h"
 
@@ -82,6 +83,43 @@ TEST_F(AppDelegateTest, QuickPickSamplesOnceTheMenuHasFadedFromTheScreen) {
     EXPECT_FALSE(fakes.screenSampler.isUp());
     fakes.scheduler.advance(std::chrono::milliseconds(100));
     EXPECT_TRUE(fakes.screenSampler.isUp());
+}
+
+TEST_F(AppDelegateTest, ARememberedColourIsCopiedWithItsSoundAndCountsForNothing) {
+    delegate.copyColor(pink);
+    delegate.copyColor(SRGBColor(0, 0, 0));
+    const auto recents = loadRecentColors(fakes.defaults);
+    fakes.statusItem.click();
+    fakes.defaults.setFromAnotherProcess(keys::colorFormat, QStringLiteral("hexa"));
+    for (const QAction* action : openMenu()->actions()) {
+        if (QMenu* submenu = QMenu::menuInAction(action))
+            submenu->actions().at(1)->trigger();
+    }
+    EXPECT_EQ(fakes.pasteboard.text(), QStringLiteral("#FF008080"));
+    EXPECT_EQ(copyCount(), 2);
+    EXPECT_EQ(loadRecentColors(fakes.defaults), recents);
+    EXPECT_EQ(fakes.soundPlayer.played().size(), 3);
+}
+
+TEST_F(AppDelegateTest, AFavouriteIsCopiedAndTheRecentColoursCanBeCleared) {
+    const Palette palette = delegate.paletteStore().palettes().first();
+    const PaletteScale& scale = palette.scales().first();
+    delegate.settings().pinSwatch(scale.swatches().first(), palette, scale);
+    delegate.copyColor(pink);
+    fakes.statusItem.click();
+    QList<QMenu*> submenus;
+    for (const QAction* action : openMenu()->actions()) {
+        if (QMenu* submenu = QMenu::menuInAction(action))
+            submenus.append(submenu);
+    }
+    ASSERT_EQ(submenus.size(), 2);
+    submenus[0]->actions().at(1)->trigger();
+    const SRGBColor pinned = delegate.settings().pinnedColors().first().cachedColor();
+    EXPECT_EQ(fakes.pasteboard.text(),
+              QString::fromStdString(formatted(pinned, ColorFormat::hex, {})));
+    EXPECT_EQ(copyCount(), 1);
+    submenus[1]->actions().last()->trigger();
+    EXPECT_TRUE(loadRecentColors(fakes.defaults).isEmpty());
 }
 
 TEST_F(AppDelegateTest, NoShortcutIsBoundUntilTheUserRecordsOne) {

@@ -41,14 +41,6 @@ TEST_F(MenuTest, ASubmenuIsInTheSameLook) {
     EXPECT_EQ(submenu->parent(), &m_menu);
 }
 
-TEST_F(MenuTest, AColorsImageIsTheColorAtBothScales) {
-    const QIcon icon = colorImage(QColor(10, 200, 30), m_look.theme());
-    const QImage image = icon.pixmap(QSize(20, 20)).toImage();
-    EXPECT_EQ(QColor(image.pixel(10, 10)), QColor(10, 200, 30));
-    EXPECT_TRUE(icon.availableSizes().contains(QSize(40, 40)) ||
-                icon.pixmap(QSize(20, 20), 2.0).width() == 40);
-}
-
 TEST_F(MenuTest, HasOneRowForEachThingItIsGiven) {
     m_menu.addRow(QStringLiteral("A"));
     m_menu.setDestructive(m_menu.addRow(QStringLiteral("Delete")));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/X11Loupe.h"
 
+#include "platform/QtColor.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
@@ -211,9 +213,7 @@ void X11Loupe::draw() {
     scene.cells = m_screen->pixels(
         QRect(scene.position - QPoint(across / 2, across / 2), QSize(across, across)));
     const auto color = m_screen->colorAt(scene.position).value_or(SRGBColor());
-    scene.color =
-        QColor::fromRgbF(static_cast<float>(color.red()), static_cast<float>(color.green()),
-                         static_cast<float>(color.blue()));
+    scene.color = toQColor(color);
     scene.text = m_describe(color);
 
     const QRect area = m_picture->extent(scene);

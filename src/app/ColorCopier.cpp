@@ -1,0 +1,37 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "app/ColorCopier.h"
+
+#include "app/RecentColor.h"
+#include "app/SettingsReaders.h"
+
+namespace dropshade {
+
+void countCheck(UserDefaults& defaults) {
+    const qint64 count = defaults.read<qint64>(keys::totalChecksCount).value_or(0);
+    defaults.setValue(keys::totalChecksCount, count + 1);
+}
+
+QString ColorCopier::text(const SRGBColor& color, std::optional<ColorFormat> format) const {
+    return QString::fromStdString(
+        formatted(color, format.value_or(colorFormat(m_defaults)), formatOptions(m_defaults)));
+}
+
+QString ColorCopier::copy(const SRGBColor& color, std::optional<ColorFormat> format) {
+    const QString copied = text(color, format);
+    m_pasteboard.setText(copied);
+    m_soundService.play();
+    return copied;
+}
+
+QString ColorCopier::copyAndRecord(const SRGBColor& color, std::optional<ColorFormat> format) {
+    countCheck(m_defaults);
+    const QString copied = text(color, format);
+    m_pasteboard.setText(copied);
+    if (showRecentColors(m_defaults) && recentColorsLimit(m_defaults) >= 1)
+        recordRecentColor(m_defaults, color);
+    m_soundService.play();
+    return copied;
+}
+
+} // namespace dropshade
