@@ -11,7 +11,7 @@ desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth python3 python3-xl
 test_packages="mold libgtest-dev libgmock-dev libxcb-xtest0-dev qt6-image-formats-plugins
     python3-dbus python3-gi chromium poppler-utils x11-xkb-utils sway xdg-desktop-portal
     x11-xserver-utils pulseaudio pulseaudio-utils clang-format-14 git openssl locales etcd-server
-    desktop-file-utils"
+    desktop-file-utils libglib2.0-bin"
 
 say() { printf '%s\n' "$*"; }
 
