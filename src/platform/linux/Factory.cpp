@@ -8,9 +8,9 @@
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
 #include "platform/linux/NullHotKeyRegistrar.h"
+#include "platform/linux/PoolBackgroundQueue.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalScreenSampler.h"
-#include "platform/linux/QtAlerts.h"
 #include "platform/linux/QtFilePanels.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
@@ -65,6 +65,7 @@ Platform makePlatform() {
     platform.instance = std::make_unique<DBusApplicationInstance>();
     platform.defaults = std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath());
     platform.scheduler = std::make_unique<QtScheduler>();
+    platform.backgroundQueue = std::make_unique<PoolBackgroundQueue>();
     platform.pasteboard = makePasteboard();
     platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
     platform.screenSampler = makeSampler(*platform.appearance);
@@ -78,7 +79,6 @@ Platform makePlatform() {
     platform.cloudStore = makeCloudStore(*platform.defaults, *platform.scheduler);
     platform.cloudAccounts = makeCloudAccounts();
     platform.filePanels = std::make_unique<QtFilePanels>();
-    platform.alerts = std::make_unique<QtAlerts>();
     platform.loginItem = std::make_unique<AutostartLoginItem>(AutostartLoginItem::ofSession());
     return platform;
 }
