@@ -61,9 +61,15 @@ public:
 
 /// A machine with an empty library before a cloud of so many palettes.
 struct Machine {
+    /// Without the presets that a new machine begins with.
+    struct EmptyLibrary : SqliteDefaults {
+        explicit EmptyLibrary(const QString& path) : SqliteDefaults(path) {
+            setValue(keys::userPalettes, QByteArray("[]"));
+            setValue(keys::collapsedPaletteIds, QStringList());
+        }
+    };
+
     explicit Machine(int paletteCount) {
-        defaults.setValue(keys::userPalettes, QByteArray("[]"));
-        defaults.setValue(keys::collapsedPaletteIds, QStringList());
         engine.start();
         for (int number = 0; number < paletteCount; ++number) {
             const Palette palette = paletteOf(number);
@@ -73,7 +79,7 @@ struct Machine {
     }
 
     QTemporaryDir folder;
-    SqliteDefaults defaults{folder.filePath(QStringLiteral("defaults.sqlite"))};
+    EmptyLibrary defaults{folder.filePath(QStringLiteral("defaults.sqlite"))};
     StandingClock scheduler;
     AppSettings settings{defaults, scheduler};
     PalettePresets presets{scheduler};

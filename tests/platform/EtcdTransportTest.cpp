@@ -255,6 +255,7 @@ TEST_F(EtcdTransportTest, ALibraryThatComesAndGoesNeverHoldsUpTheMainThread) {
     const auto second = member(2);
     EXPECT_TRUE(second->sees(QStringLiteral("299"), first->store().value(QStringLiteral("299"))));
     EXPECT_LE(down.milliseconds(), 16.0);
+    EXPECT_GT(down.turnCount(), 20);
 }
 
 } // namespace
