@@ -25,6 +25,9 @@ public:
     void open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) override {
         m_panels.append({false, title, QString(), kind, host, std::move(answer)});
     }
+    void openFolder(const QString& title, QWindow* host, Answer answer) override {
+        m_panels.append({false, title, QString(), FileKind(), host, std::move(answer)});
+    }
     void save(const QString& title, const QString& name, const FileKind& kind, QWindow* host,
               Answer answer) override {
         m_panels.append({true, title, name + QLatin1Char('.') + kind.extensions.constFirst(), kind,

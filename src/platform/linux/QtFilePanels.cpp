@@ -25,12 +25,11 @@ QStringList filters(const FileKind& kind) {
 
 } // namespace
 
-QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind, Answer answer) {
+QFileDialog& QtFilePanels::makeDialog(const QString& title, Answer answer) {
     if (m_folder.isEmpty())
         m_folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     auto* dialog = new QFileDialog(nullptr, title, m_folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setNameFilters(filters(kind));
     QObject::connect(&m_life, &QObject::destroyed, dialog, [dialog] { delete dialog; });
     QObject::connect(dialog, &QDialog::finished, &m_life,
                      [this, dialog, answer = std::move(answer)](int result) {
@@ -44,14 +43,23 @@ QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind
 }
 
 void QtFilePanels::open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) {
-    QFileDialog& dialog = makeDialog(title, kind, std::move(answer));
+    QFileDialog& dialog = makeDialog(title, std::move(answer));
+    dialog.setNameFilters(filters(kind));
     dialog.setFileMode(QFileDialog::ExistingFile);
+    showOver(dialog, host);
+}
+
+void QtFilePanels::openFolder(const QString& title, QWindow* host, Answer answer) {
+    QFileDialog& dialog = makeDialog(title, std::move(answer));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
     showOver(dialog, host);
 }
 
 void QtFilePanels::save(const QString& title, const QString& name, const FileKind& kind,
                         QWindow* host, Answer answer) {
-    QFileDialog& dialog = makeDialog(title, kind, std::move(answer));
+    QFileDialog& dialog = makeDialog(title, std::move(answer));
+    dialog.setNameFilters(filters(kind));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(kind.extensions.constFirst());

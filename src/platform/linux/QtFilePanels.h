@@ -14,12 +14,12 @@ namespace dropshade {
 class QtFilePanels : public FilePanels {
 public:
     void open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) override;
+    void openFolder(const QString& title, QWindow* host, Answer answer) override;
     void save(const QString& title, const QString& name, const FileKind& kind, QWindow* host,
               Answer answer) override;
 
 private:
-    [[nodiscard]] QFileDialog& makeDialog(const QString& title, const FileKind& kind,
-                                          Answer answer);
+    [[nodiscard]] QFileDialog& makeDialog(const QString& title, Answer answer);
 
     QObject m_life; ///< Panels that are still up end with it.
     QString m_folder;
