@@ -108,8 +108,8 @@ private:
         m_space = m_writer.uid(space);
         m_colorClass = m_writer.uid(first + classesBehindFirstColor);
         bool isFirst = true;
-        for (const QString& key : m_list.allKeys()) {
-            addColor(m_list.colorWithKey(key).value_or(SRGBColor()));
+        for (const auto& color : m_list.allColors()) {
+            addColor(color.value_or(SRGBColor()));
             if (isFirst)
                 addSpaceAndClasses(space);
             isFirst = false;

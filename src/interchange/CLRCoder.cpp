@@ -70,12 +70,13 @@ Palette CLRCoder::paletteOf(const ColorList& list, ReferenceTime now) {
     const QList<QString>& keys = list.allKeys();
     const bool isOfScales = isGrouped(keys);
     Scales scales;
-    for (const QString& key : keys) {
+    for (qsizetype place = 0; place < keys.size(); ++place) {
+        const QString& key = keys.at(place);
         const qsizetype end = isOfScales ? key.indexOf(separator) : -1;
         const QString label = end < 0 ? key : key.mid(end + separator.size());
         auto& swatches =
             scales.swatchesOf(end < 0 ? ImportedNames::scaleOfLooseColors() : key.first(end));
-        const auto color = list.colorWithKey(key);
+        const auto& color = list.allColors().at(place);
         // The scale stays, if empty.
         if (color)
             swatches.append(PaletteSwatch(hexText(*color), label.isEmpty() && isOfScales

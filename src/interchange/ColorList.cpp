@@ -17,14 +17,20 @@ QByteArray ColorList::bytes() const {
 }
 
 std::optional<SRGBColor> ColorList::colorWithKey(const QString& key) const {
-    return m_colors.value(key);
+    const auto place = m_places.constFind(key);
+    return place == m_places.constEnd() ? std::nullopt : m_colors.at(*place);
 }
 
 void ColorList::setColor(const std::optional<SRGBColor>& color, const QString& key) {
-    const qsizetype before = m_colors.size();
-    m_colors.insert(key, color);
-    if (m_colors.size() > before)
-        m_keys.append(key);
+    const qsizetype count = m_places.size();
+    qsizetype& place = m_places[key];
+    if (m_places.size() == count) {
+        m_colors[place] = color;
+        return;
+    }
+    place = count;
+    m_keys.append(key);
+    m_colors.append(color);
 }
 
 } // namespace dropshade

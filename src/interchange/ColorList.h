@@ -29,6 +29,8 @@ public:
     [[nodiscard]] const QString& name() const { return m_name; }
     /// In list order.
     [[nodiscard]] const QList<QString>& allKeys() const { return m_keys; }
+    /// The colours of `allKeys`, in the same order.
+    [[nodiscard]] const QList<std::optional<SRGBColor>>& allColors() const { return m_colors; }
     /// Nothing for a key that isn't in the list or whose colour couldn't be told.
     [[nodiscard]] std::optional<SRGBColor> colorWithKey(const QString& key) const;
 
@@ -38,7 +40,9 @@ public:
 private:
     QString m_name;
     QList<QString> m_keys;
-    QHash<QString, std::optional<SRGBColor>> m_colors;
+    /// In the order of the keys.
+    QList<std::optional<SRGBColor>> m_colors;
+    QHash<QString, qsizetype> m_places;
 };
 
 } // namespace dropshade

@@ -5,13 +5,14 @@
 namespace dropshade {
 
 QString UniqueNames::take(const QString& name) {
-    if (!m_nextNumbers.contains(name)) {
-        m_nextNumbers.insert(name, 2);
+    qsizetype& next = m_nextNumbers[name];
+    if (next == 0) {
+        next = 2;
         return name;
     }
     // Numbers below the next one are taken for good, which keeps equal names from costing the
     // square of their count.
-    qsizetype number = m_nextNumbers.value(name);
+    qsizetype number = next;
     QString numbered;
     do
         numbered = m_numbered(name, number++);

@@ -20,6 +20,7 @@ public:
 
 private:
     Numbered m_numbered;
+    /// 2 or more for each name that is taken.
     QHash<QString, qsizetype> m_nextNumbers;
 };
 
