@@ -1,8 +1,10 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
+#include "app/Words.h"
 #include "platform/linux/Factory.h"
 #include "platform/linux/QuitSignals.h"
+#include "widgets/ThemedAlerts.h"
 
 #include <QApplication>
 
@@ -21,6 +23,10 @@ int main(int argc, char** argv) {
     Platform platform = makePlatform();
     if (platform.instance->claim() == ApplicationInstance::Role::HandedOver)
         return 0;
+    QTranslator words;
+    if (loadWords(words))
+        QApplication::installTranslator(&words);
+    platform.alerts = std::make_unique<ThemedAlerts>(*platform.appearance);
     AppDelegate delegate(std::move(platform));
     QObject::connect(&delegate, &AppDelegate::quitRequested, &application, &QApplication::quit);
     QObject::connect(&application, &QApplication::aboutToQuit, &delegate,

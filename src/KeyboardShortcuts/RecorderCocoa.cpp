@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QWindow>
 
 #include <algorithm>
 
@@ -44,9 +43,9 @@ bool isModifier(int key) {
 RecorderCocoa::RecorderCocoa(const Look& look, const Surroundings& surroundings,
                              const ShortcutName& name, const QString& label, QWidget* parent)
     : Button(look, parent), m_layout(surroundings.shortcuts.layout()),
-      m_model({surroundings.shortcuts, surroundings.alerts, editMenuKeys,
-               [] { QApplication::beep(); }, [this] { return window()->windowHandle(); }},
-              name),
+      m_model(
+          {surroundings.shortcuts, surroundings.alerts, editMenuKeys, [] { QApplication::beep(); }},
+          name),
       //: Button of a shortcut recorder; %1 is what the shortcut is for
       m_cancelButton(new IconButton(look, Icon::Close, tr("Clear the Shortcut of %1").arg(label),
                                     metrics::iconButtonField, this)) {

@@ -5,8 +5,6 @@
 #include "KeyboardShortcuts/RecorderModel.h"
 #include "widgets/Button.h"
 
-class QWindow;
-
 namespace dropshade {
 
 class IconButton;

@@ -88,7 +88,7 @@ void SyncAccountView::addFolder() {
     choose->setAccessibleName(tr("Choose Folder"));
     connect(choose, &QAbstractButton::clicked, this, [this] {
         //: Title of the panel that asks for a folder
-        m_panels.openFolder(tr("Choose a Folder for Sync"), window()->windowHandle(),
+        m_panels.openFolder(tr("Choose a Folder for Sync"),
                             [this](const std::optional<QString>& path) {
                                 if (path)
                                     m_model.setFolder(*path);
@@ -128,7 +128,7 @@ void SyncAccountView::addServer() {
         m_panels.open(tr("Choose a CA Certificate"),
                       //: Kind of file in a panel
                       {tr("Certificates"), {QStringLiteral("pem"), QStringLiteral("crt")}},
-                      window()->windowHandle(), [this](const std::optional<QString>& path) {
+                      [this](const std::optional<QString>& path) {
                           if (path)
                               m_model.setAuthority(*path);
                       });

@@ -42,22 +42,22 @@ QFileDialog& QtFilePanels::makeDialog(const QString& title, Answer answer) {
     return *dialog;
 }
 
-void QtFilePanels::open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) {
+void QtFilePanels::open(const QString& title, const FileKind& kind, Answer answer) {
     QFileDialog& dialog = makeDialog(title, std::move(answer));
     dialog.setNameFilters(filters(kind));
     dialog.setFileMode(QFileDialog::ExistingFile);
-    showOver(dialog, host);
+    showOverFront(dialog);
 }
 
-void QtFilePanels::openFolder(const QString& title, QWindow* host, Answer answer) {
+void QtFilePanels::openFolder(const QString& title, Answer answer) {
     QFileDialog& dialog = makeDialog(title, std::move(answer));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
-    showOver(dialog, host);
+    showOverFront(dialog);
 }
 
 void QtFilePanels::save(const QString& title, const QString& name, const FileKind& kind,
-                        QWindow* host, Answer answer) {
+                        Answer answer) {
     QFileDialog& dialog = makeDialog(title, std::move(answer));
     dialog.setNameFilters(filters(kind));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -65,7 +65,7 @@ void QtFilePanels::save(const QString& title, const QString& name, const FileKin
     dialog.setDefaultSuffix(kind.extensions.constFirst());
     // With its extension: Qt takes what follows a dot in the name for one.
     dialog.selectFile(name + QLatin1Char('.') + kind.extensions.constFirst());
-    showOver(dialog, host);
+    showOverFront(dialog);
 }
 
 } // namespace dropshade
