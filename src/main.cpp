@@ -4,6 +4,7 @@
 #include "app/Words.h"
 #include "platform/linux/Factory.h"
 #include "platform/linux/QuitSignals.h"
+#include "widgets/QtFilePanels.h"
 #include "widgets/ThemedAlerts.h"
 
 #include <QApplication>
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
     QTranslator words;
     if (loadWords(words))
         QApplication::installTranslator(&words);
+    platform.filePanels = std::make_unique<QtFilePanels>(*platform.appearance);
     platform.alerts = std::make_unique<ThemedAlerts>(*platform.appearance);
     AppDelegate delegate(std::move(platform));
     QObject::connect(&delegate, &AppDelegate::quitRequested, &application, &QApplication::quit);
