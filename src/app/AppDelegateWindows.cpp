@@ -2,15 +2,40 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 
+#include "contrast/ContrastWindowController.h"
+#include "convert/ColorPickerWindowController.h"
+
+#include <QApplication>
+
 namespace dropshade {
 
 // Every way to a window ends here: a row of the menu, a global shortcut, an action on the bus.
 
-void AppDelegate::openColorPicker() {}
+ColorWindowSurroundings AppDelegate::colorWindowSurroundings() {
+    return {look(),
+            *m_platform.defaults,
+            m_settings,
+            *m_platform.pasteboard,
+            *m_platform.scheduler,
+            m_colorPickerService,
+            m_copier};
+}
+
+void AppDelegate::openColorPicker() {
+    if (!m_colorPickerController)
+        m_colorPickerController =
+            std::make_unique<ColorPickerWindowController>(colorWindowSurroundings());
+    m_colorPickerController->show();
+}
 
 void AppDelegate::openPalettes() {}
 
-void AppDelegate::openContrast() {}
+void AppDelegate::openContrast() {
+    if (!m_contrastController)
+        m_contrastController = std::make_unique<ContrastWindowController>(
+            colorWindowSurroundings(), [] { QApplication::beep(); });
+    m_contrastController->show();
+}
 
 void AppDelegate::openNewPaletteFromImage() {
     openPalettes();
