@@ -23,7 +23,9 @@ void checkSwatch(const PaletteSwatch& swatch, const PaletteSwatch& copy) {
     require(swatch.value().size() == 7, "a value is a hex text");
     require(!swatch.label() || !swatch.label()->isEmpty(), "an empty name is no label");
     require(copy.value() == swatch.value(), "a colour comes back as it was");
-    require(copy.label() == swatch.label().value_or(swatch.value()), "a name comes back");
+    const QString name = swatch.label().value_or(swatch.value());
+    // A name that was cut may end in white space, which the next reading takes off.
+    require(copy.label() == name.trimmed(), "a name comes back");
 }
 
 } // namespace
@@ -43,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (qsizetype at = 0; at < copy->scales().size(); ++at) {
         const PaletteScale& scale = palette->scales().at(at);
         const PaletteScale& scaleCopy = copy->scales().at(at);
-        require(scaleCopy.name() == scale.name(), "a scale's name comes back");
+        require(scaleCopy.name() == scale.name().trimmed(), "a scale's name comes back");
         require(scaleCopy.swatches().size() == scale.swatches().size(), "no swatch is lost");
         for (qsizetype place = 0; place < scale.swatches().size(); ++place)
             checkSwatch(scale.swatches().at(place), scaleCopy.swatches().at(place));

@@ -88,7 +88,7 @@ class VirtualDesktop(PrivateSession):
         """The rectangle x, y, width, height of the one icon in the tray, when it is there."""
         def find():
             window = self._embedded_window(self.root)
-            return window and self._rectangle(window)
+            return window and self.rectangle_of(window)
 
         def find_settled():
             # The tray moves its icons while it makes room for them.
@@ -118,7 +118,7 @@ class VirtualDesktop(PrivateSession):
                 return found
         return None
 
-    def _rectangle(self, window):
+    def rectangle_of(self, window):
         size = window.get_geometry()
         origin = window.translate_coords(self.root, 0, 0)
         return -origin.x, -origin.y, size.width, size.height
@@ -134,6 +134,17 @@ class VirtualDesktop(PrivateSession):
             except error.XError:
                 continue  # It has gone meanwhile.
         return shown
+
+    def wait_until_still(self, still=0.15):
+        """Until nothing on the screen has changed for that many seconds."""
+        width, height, _ = self._size
+        before, since = self.grab(0, 0, width, height), time.monotonic()
+        deadline = time.monotonic() + WAIT_SECONDS
+        while time.monotonic() - since < still and time.monotonic() < deadline:
+            time.sleep(0.02)
+            now = self.grab(0, 0, width, height)
+            if now != before:
+                before, since = now, time.monotonic()
 
     def pixel(self, x, y):
         """The colour on the screen as (red, green, blue)."""
@@ -179,15 +190,20 @@ class VirtualDesktop(PrivateSession):
         return status != X.GrabSuccess
 
     def open_menu(self):
-        """The rectangle of an open menu or other unmanaged window of a Qt program, or None."""
+        """The rectangle of the first open menu, or None."""
+        return next(iter(self.open_menus()), None)
+
+    def open_menus(self):
+        """The rectangles of menus and other unmanaged windows of Qt programs, lowest first."""
+        menus = []
         for child in self.root.query_tree().children:
             try:
                 shown = child.get_attributes().map_state == X.IsViewable
                 if shown and child.get_wm_protocols() and child.get_wm_class():
-                    return self._rectangle(child)
+                    menus.append(self.rectangle_of(child))
             except error.XError:
                 continue
-        return None
+        return menus
 
     def wait_for_menu(self):
         """An open menu that has the keyboard. To ask the server who has it would be to take it away

@@ -71,6 +71,17 @@ QSet<Shortcut> CarbonKeyboardShortcuts::shortcuts() const {
     return all;
 }
 
+HotKeyRegistrar::Status CarbonKeyboardShortcuts::statusOf(const Shortcut& shortcut) {
+    if (shortcuts().contains(shortcut))
+        return HotKeyRegistrar::Status::Registered;
+    const quint32 id = ++m_lastId;
+    const auto status =
+        m_registrar.registerHotKey(id, shortcut.carbonKeyCode, shortcut.carbonModifiers);
+    if (status == HotKeyRegistrar::Status::Registered)
+        m_registrar.unregisterHotKey(id);
+    return status;
+}
+
 bool CarbonKeyboardShortcuts::registerHotKey(quint32 id, HotKey& hotKey) {
     const auto status = m_registrar.registerHotKey(id, hotKey.shortcut.carbonKeyCode,
                                                    hotKey.shortcut.carbonModifiers);

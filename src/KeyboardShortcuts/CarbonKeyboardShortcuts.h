@@ -31,6 +31,9 @@ public:
     /// What is held now, or waits for the end of a menu or for the switch.
     [[nodiscard]] QSet<Shortcut> shortcuts() const;
 
+    /// `Registered` for what is held already and for what could be; nothing changes by it.
+    [[nodiscard]] HotKeyRegistrar::Status statusOf(const Shortcut& shortcut);
+
     [[nodiscard]] bool isEnabled() const { return m_isEnabled; }
     /// While false nothing fires, and the registrations wait.
     void setEnabled(bool enabled);

@@ -75,6 +75,10 @@ void KeyboardShortcuts::setRecorderActive(bool isActive) {
     Q_EMIT recorderActiveStatusDidChange(isActive);
 }
 
+HotKeyRegistrar::Status KeyboardShortcuts::statusOf(const Shortcut& shortcut) {
+    return m_carbon.statusOf(shortcut);
+}
+
 void KeyboardShortcuts::registerStored(const ShortcutName& name) {
     if (const auto shortcut = getShortcut(name))
         registerShortcut(*shortcut);
@@ -109,8 +113,18 @@ QSet<Shortcut> KeyboardShortcuts::neededShortcuts() const {
 }
 
 void KeyboardShortcuts::dispatch(KeyEventType type, const Shortcut& shortcut) {
-    if (m_isPaused)
+    // A release belongs to its press: what was pressed for a recorder stays without effect.
+    if (type == KeyEventType::KeyUp && m_pressedForRecorder.remove(shortcut))
         return;
+    if (type == KeyEventType::KeyDown)
+        m_pressedForRecorder.remove(shortcut);
+    if (m_isPaused) {
+        if (type == KeyEventType::KeyDown) {
+            m_pressedForRecorder.insert(shortcut);
+            Q_EMIT pressedForRecorder(shortcut);
+        }
+        return;
+    }
     // Copies: an action may add or remove actions.
     const Actions actions = type == KeyEventType::KeyDown ? m_keyDownActions : m_keyUpActions;
     for (auto entry = actions.begin(); entry != actions.end(); ++entry) {

@@ -60,12 +60,18 @@ public:
     /// Also tells that a recorder began or ended to record.
     void setRecorderActive(bool isActive);
 
+    /// What a registration of the shortcut would come to now.
+    [[nodiscard]] HotKeyRegistrar::Status statusOf(const Shortcut& shortcut);
+
     [[nodiscard]] const KeyboardLayout& layout() const { return m_layout; }
 
 Q_SIGNALS:
     /// After each change of a stored shortcut.
     void shortcutByNameDidChange(const dropshade::ShortcutName& name);
     void recorderActiveStatusDidChange(bool isActive);
+    /// A combination that is held was pressed while a recorder records. The desktop delivers it
+    /// here alone, not to the window.
+    void pressedForRecorder(const dropshade::Shortcut& shortcut);
 
 private:
     friend class ShortcutEvents;
@@ -88,6 +94,7 @@ private:
     Actions m_keyDownActions;
     Actions m_keyUpActions;
     Streams m_streams;
+    QSet<Shortcut> m_pressedForRecorder;
     bool m_isPaused = false;
     bool m_isWriting = false;
 };

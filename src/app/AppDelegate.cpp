@@ -21,6 +21,12 @@ namespace {
 /// The windows under a menu need a moment to draw what it covered, or the loupe shows its ghost.
 constexpr std::chrono::milliseconds menuFadeDelay{100};
 
+/// At the start of a session the panel may well come after its programs.
+constexpr std::chrono::seconds hostPatience{10};
+
+/// Set once the user has been told what to do without a status area.
+const QString didExplainKey = QStringLiteral("didExplainMissingStatusArea");
+
 /// A tray takes some turns of the event loop to put the icon up, and a large library holds up one.
 constexpr std::chrono::milliseconds paletteLoadDelay{500};
 
@@ -61,6 +67,9 @@ void AppDelegate::applicationDidFinishLaunching() {
     registerShortcuts();
     connect(m_platform.statusItem.get(), &StatusItem::clicked, this,
             &AppDelegate::statusItemClicked);
+    connect(m_platform.statusItem.get(), &StatusItem::hostFound, this,
+            [this] { m_hostWait.reset(); });
+    m_hostWait = m_platform.scheduler->after(hostPatience, [this] { explainMissingStatusArea(); });
     updateStatusIcon();
     connect(&m_settings, &AppSettings::menuBarIconStyleDidChange, this,
             &AppDelegate::updateStatusIcon);
@@ -68,6 +77,8 @@ void AppDelegate::applicationDidFinishLaunching() {
             &AppDelegate::updateStatusIcon);
     connect(m_platform.instance.get(), &ApplicationInstance::activated, &m_statusMenu,
             &StatusMenu::show);
+    connect(m_platform.instance.get(), &ApplicationInstance::actionActivated, this,
+            &AppDelegate::performAction);
     connectMenu();
     connect(&m_settings, &AppSettings::iCloudSyncEnabledDidChange, this, &AppDelegate::setSyncing);
     m_paletteLoad = m_platform.scheduler->after(paletteLoadDelay, [this] { loadPalettes(); });
@@ -108,24 +119,20 @@ void AppDelegate::connectMenu() {
 }
 
 void AppDelegate::registerShortcuts() {
-    m_shortcuts.onKeyUp(shortcutNames::pickColor, [this] { pickShortcutReleased(); });
-    m_shortcuts.onKeyUp(shortcutNames::checkContrast, [this] {
-        m_statusMenu.close();
-        openContrast();
-    });
-    m_shortcuts.onKeyUp(shortcutNames::palettes, [this] {
-        m_statusMenu.close();
-        openPalettes();
-    });
-    m_shortcuts.onKeyUp(shortcutNames::convert, [this] {
-        m_statusMenu.close();
-        openColorPicker();
-    });
+    const auto bind = [this](const ShortcutName& name, ApplicationAction action) {
+        m_shortcuts.onKeyUp(name, [this, action] { performAction(action); });
+    };
+    bind(shortcutNames::pickColor, ApplicationAction::QuickPick);
+    bind(shortcutNames::checkContrast, ApplicationAction::Contrast);
+    bind(shortcutNames::palettes, ApplicationAction::Palettes);
+    bind(shortcutNames::convert, ApplicationAction::Convert);
 }
 
 void AppDelegate::applicationWillTerminate() {
     m_pickAfterMenu.reset();
     m_paletteLoad.reset();
+    m_presetRequest.reset();
+    m_hostWait.reset();
     // The store first: its save may bring the pins in line.
     if (m_paletteStore && m_paletteStore->hasPendingSave())
         m_paletteStore->flushPendingSave();
@@ -146,6 +153,19 @@ void AppDelegate::updateStatusIcon() {
         m_platform.appearance->isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light;
     m_platform.statusItem->setIcon(tintedStatusIcon(
         statusIconResource(m_settings.menuBarIconStyle()), Theme::of(scheme).textPrimary));
+}
+
+void AppDelegate::explainMissingStatusArea() {
+    UserDefaults& defaults = *m_platform.defaults;
+    if (defaults.read<bool>(didExplainKey).value_or(false))
+        return;
+    defaults.setValue(didExplainKey, true);
+    m_platform.alerts->warn(
+        //: Title of a message on a desktop with no place for the program's icon
+        tr("Dropshade has no icon on this desktop"),
+        //: The message; "it" is the program
+        tr("This desktop has no status area. Dropshade is running: start it once more to open its "
+           "menu, or bind keys of your own to its actions in the settings of the desktop."));
 }
 
 UserPaletteStore& AppDelegate::paletteStore() {
@@ -198,13 +218,27 @@ void AppDelegate::pickColorClicked() {
     m_pickAfterMenu = m_platform.scheduler->after(menuFadeDelay, [this] { startPick(); });
 }
 
-void AppDelegate::pickShortcutReleased() {
+void AppDelegate::startPickFromAnywhere() {
     if (!m_statusMenu.isOpen()) {
         startPick();
         return;
     }
     m_statusMenu.close();
     pickColorClicked();
+}
+
+void AppDelegate::performAction(ApplicationAction action) {
+    if (action == ApplicationAction::QuickPick) {
+        startPickFromAnywhere();
+        return;
+    }
+    m_statusMenu.close();
+    if (action == ApplicationAction::Convert)
+        openColorPicker();
+    else if (action == ApplicationAction::Palettes)
+        openPalettes();
+    else
+        openContrast();
 }
 
 void AppDelegate::startPick() {

@@ -14,6 +14,7 @@
 #include "color/ColorFormat.h"
 #include "interchange/PaletteExporter.h"
 #include "interchange/PaletteImporter.h"
+#include "palettes/PalettesWindowController.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
 #include "sync/CloudSyncEngine.h"
@@ -32,7 +33,7 @@ class ContrastWindowController;
 
 /// The program's one controller: it owns a service and a window controller of each kind, and
 /// carries the main flow, from a sample on the screen to its text on the clipboard.
-class AppDelegate : public QObject {
+class AppDelegate : public QObject, private PaletteCommands {
     Q_OBJECT
 
 public:
@@ -47,6 +48,9 @@ public:
 
     /// Samples the screen and copies the colour. Does nothing while a sample is up.
     void startPick();
+
+    /// The same from anywhere: the menu, if it is open, is off the screen first.
+    void startPickFromAnywhere();
 
     // The windows, each built at its first use and brought to the front at every one.
 
@@ -109,13 +113,26 @@ private:
     void registerShortcuts();
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
-    void pickShortcutReleased();
+    void performAction(ApplicationAction action);
     void updateStatusIcon();
+    void explainMissingStatusArea();
     void loadPalettes();
     void setSyncing(bool enabled);
     [[nodiscard]] ColorWindowSurroundings colorWindowSurroundings();
     void finishPick(const std::optional<SRGBColor>& color);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
+    PalettesWindowController& palettesController();
+
+    // What the palettes window asks for
+    void copyFromPalettes(const SRGBColor& color, std::optional<ColorFormat> format) override;
+    void createPaletteFromImage() override;
+    void createPaletteFromImageFile(const QString& path) override;
+    void createPaletteFromImageData(const QByteArray& data, const QString& name) override;
+    void createPaletteFromFile() override;
+    void importPaletteFile(const QString& path) override;
+    void importPaletteData(const QByteArray& data, const QString& fileExtension,
+                           const std::optional<QString>& suggestedName) override;
+    void exportPaletteTo(const Palette& palette, PaletteExportFormat format) override;
 
     Platform m_platform;
     AppSettings m_settings;
@@ -133,8 +150,12 @@ private:
     std::unique_ptr<ContrastWindowController> m_contrastController;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
     std::unique_ptr<UpdateService> m_updateService;
+    std::unique_ptr<PalettesWindowController> m_palettesController;
+    std::unique_ptr<ScheduledWork> m_presetRequest;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
     std::unique_ptr<ScheduledWork> m_paletteLoad;
+    /// Waits for a status area to come up, as long as there is none.
+    std::unique_ptr<ScheduledWork> m_hostWait;
     bool m_isPicking = false;
 };
 

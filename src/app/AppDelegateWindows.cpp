@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 
+#include "KeyboardShortcuts/ShortcutDescription.h"
 #include "contrast/ContrastWindowController.h"
 #include "convert/ColorPickerWindowController.h"
 
@@ -28,7 +29,27 @@ void AppDelegate::openColorPicker() {
     m_colorPickerController->show();
 }
 
-void AppDelegate::openPalettes() {}
+/// The window is built here and not after the launch: hidden, it would be most of the memory of a
+/// program that is its status item.
+PalettesWindowController& AppDelegate::palettesController() {
+    if (!m_palettesController) {
+        const auto shortcutText = [this]() -> std::optional<QString> {
+            const auto shortcut = m_shortcuts.getShortcut(shortcutNames::palettes);
+            return shortcut ? std::optional(description(*shortcut, *m_platform.keyboardLayout))
+                            : std::nullopt;
+        };
+        m_palettesController = std::make_unique<PalettesWindowController>(
+            PalettesWindowController::Surroundings{look(),
+                                                   {*m_platform.defaults, *m_platform.scheduler,
+                                                    m_settings, paletteStore(), m_presets, *this},
+                                                   shortcutText});
+    }
+    return *m_palettesController;
+}
+
+void AppDelegate::openPalettes() {
+    palettesController().bringUp();
+}
 
 void AppDelegate::openContrast() {
     if (!m_contrastController)
@@ -76,6 +97,46 @@ void AppDelegate::importPalette(const std::function<Palette(const PaletteImporte
 
 void AppDelegate::openNewPaletteFromPreset() {
     openPalettes();
+    m_presetRequest = m_platform.scheduler->after(std::chrono::milliseconds(0), [this] {
+        palettesController().requests().requestPresetPicker();
+    });
+}
+
+// What the palettes window asks for
+
+void AppDelegate::copyFromPalettes(const SRGBColor& color, std::optional<ColorFormat> format) {
+    copyColor(color, format);
+    if (m_settings.closePaletteDialogOnCopy())
+        palettesController().close();
+}
+
+void AppDelegate::createPaletteFromImage() {
+    openNewPaletteFromImage();
+}
+
+void AppDelegate::createPaletteFromImageFile(const QString&) {
+    openNewPaletteFromImage();
+}
+
+void AppDelegate::createPaletteFromImageData(const QByteArray&, const QString&) {
+    openNewPaletteFromImage();
+}
+
+void AppDelegate::createPaletteFromFile() {
+    openNewPaletteFromFile();
+}
+
+void AppDelegate::importPaletteFile(const QString& path) {
+    importPalette(path);
+}
+
+void AppDelegate::importPaletteData(const QByteArray& data, const QString& fileExtension,
+                                    const std::optional<QString>& suggestedName) {
+    importPalette(data, fileExtension, suggestedName);
+}
+
+void AppDelegate::exportPaletteTo(const Palette& palette, PaletteExportFormat format) {
+    m_paletteExporter.exportPalette(palette, format);
 }
 
 void AppDelegate::openSettings() {}

@@ -52,7 +52,7 @@ QList<FavoriteRow> sortedRows(const QList<PinnedColor>& pins, const Palette* pal
         const QString title =
             label.isEmpty() ? QString::fromStdString(formatted(pin->cachedColor(), format, options))
                             : label;
-        rows.append({cutTitle(title), *pin});
+        rows.append({cutTitle(title), label.isEmpty(), *pin});
     }
     return rows;
 }

@@ -20,6 +20,8 @@ struct RecentRow {
 
 struct FavoriteRow {
     QString title;
+    /// The title is the colour's own text, for want of a label.
+    bool isValue;
     PinnedColor pin;
 };
 

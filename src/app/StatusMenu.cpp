@@ -150,6 +150,7 @@ void StatusMenu::makeFavoritesItem(ShortcutMenu& menu) {
         return;
     //: Submenu title
     Menu* submenu = menu.addSubmenu(tr("Favorites"), Icon::Star);
+    const QFont valueFont = textFont(TextStyle::Value);
     for (const FavoriteGroup& group : groups) {
         if (!submenu->isEmpty())
             submenu->addSeparator();
@@ -157,6 +158,8 @@ void StatusMenu::makeFavoritesItem(ShortcutMenu& menu) {
         for (const FavoriteRow& row : group.rows) {
             QAction* action =
                 submenu->addColorRow(rowText(row.title), toQColor(row.pin.cachedColor()));
+            if (row.isValue)
+                action->setFont(valueFont);
             connect(action, &QAction::triggered, this,
                     [this, pin = row.pin] { Q_EMIT pinnedColorClicked(pin); });
         }

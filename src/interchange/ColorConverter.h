@@ -3,6 +3,7 @@
 #pragma once
 
 #include "color/SRGBColor.h"
+#include "interchange/ColorTransform.h"
 
 #include <QString>
 
@@ -16,12 +17,9 @@ namespace dropshade {
 class ColorConverter {
 public:
     /// Converts CMYK by the profile in this file.
-    explicit ColorConverter(const QString& cmykProfile);
+    explicit ColorConverter(const QString& cmykProfile) : m_cmykProfile(cmykProfile) {}
     /// Converts CMYK by the profile that the system has for print of unknown origin.
-    ColorConverter();
-    ~ColorConverter();
-    ColorConverter(const ColorConverter&) = delete;
-    ColorConverter& operator=(const ColorConverter&) = delete;
+    ColorConverter() = default;
 
     /// Ink from 0 to 1 each, relative colorimetric with black point compensation. Without a profile
     /// or LittleCMS by (1 − ink) (1 − black).
@@ -32,11 +30,9 @@ public:
     [[nodiscard]] SRGBColor fromLab(double lightness, double a, double b);
 
 private:
-    class Transform;
-
     QString m_cmykProfile;
-    std::unique_ptr<Transform> m_fromCmyk;
-    std::unique_ptr<Transform> m_fromLab;
+    std::unique_ptr<ColorTransform> m_fromCmyk;
+    std::unique_ptr<ColorTransform> m_fromLab;
 };
 
 } // namespace dropshade

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/PaletteTextExporter.h"
 
-#include <QHash>
+#include "interchange/UniqueNames.h"
 
 namespace dropshade {
 namespace {
@@ -29,31 +29,6 @@ QString slug(const QString& text) {
     return slug;
 }
 
-/// The names of one sheet.
-class VariableNames {
-public:
-    /// `name`, or the first of "name-2", "name-3" and so on that isn't taken; takes it.
-    QString take(const QString& name) {
-        if (!m_nextNumbers.contains(name)) {
-            m_nextNumbers.insert(name, 2);
-            return name;
-        }
-        // Numbers below the next one are taken for good, which keeps equal labels from costing
-        // the square of their count.
-        qsizetype number = m_nextNumbers.value(name);
-        QString numbered;
-        do
-            numbered = name + u'-' + QString::number(number++);
-        while (m_nextNumbers.contains(numbered));
-        m_nextNumbers.insert(name, number);
-        m_nextNumbers.insert(numbered, 2);
-        return numbered;
-    }
-
-private:
-    QHash<QString, qsizetype> m_nextNumbers;
-};
-
 QString variableName(const PaletteSwatch& swatch, const QString& scaleSlug, const QString& place) {
     const QString label = swatch.label().value_or(QString()).trimmed();
     const QString name = slug(label.isEmpty() ? scaleSlug + u'-' + place : label);
@@ -71,7 +46,9 @@ QString PaletteTextExporter::css(const Palette& palette) {
     if (const QString name = palette.name().trimmed(); !name.isEmpty())
         sheet += comment(name);
     sheet += QStringLiteral(":root {\n");
-    VariableNames names;
+    UniqueNames names([](const QString& name, qsizetype number) {
+        return name + u'-' + QString::number(number);
+    });
     for (qsizetype index = 0; index < palette.scales().size(); ++index) {
         const PaletteScale& scale = palette.scales().at(index);
         if (index > 0)

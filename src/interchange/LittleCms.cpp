@@ -26,6 +26,8 @@ LittleCms loaded() {
                          resolve(library, "cmsDeleteTransform", lcms.deleteTransform) &&
                          resolve(library, "cmsDoTransform", lcms.doTransform) &&
                          resolve(library, "cmsGetColorSpace", lcms.getColorSpace) &&
+                         resolve(library, "cmsIsMatrixShaper", lcms.isMatrixShaper) &&
+                         resolve(library, "cmsIsTag", lcms.isTag) &&
                          resolve(library, "cmsOpenProfileFromMem", lcms.openProfileFromMem);
     return isWhole ? lcms : LittleCms();
 }

@@ -16,6 +16,8 @@ struct LittleCms {
     decltype(&cmsDeleteTransform) deleteTransform = nullptr;
     decltype(&cmsDoTransform) doTransform = nullptr;
     decltype(&cmsGetColorSpace) getColorSpace = nullptr;
+    decltype(&cmsIsMatrixShaper) isMatrixShaper = nullptr;
+    decltype(&cmsIsTag) isTag = nullptr;
     decltype(&cmsOpenProfileFromMem) openProfileFromMem = nullptr;
 
     /// Nothing where the library isn't there.

@@ -3,6 +3,7 @@
 #include "interchange/PaletteExporter.h"
 
 #include "interchange/ASECoder.h"
+#include "interchange/CLRCoder.h"
 #include "interchange/GenericErrorText.h"
 #include "interchange/PaletteImageRenderer.h"
 #include "interchange/PaletteJSONCoder.h"
@@ -27,6 +28,7 @@ QByteArray content(const Palette& palette, PaletteExportFormat format) {
             throw PaletteExporterError("A name is too long for the format.");
         return ASECoder::encode(palette);
     case PaletteExportFormat::clr:
+        return CLRCoder::encode(palette);
     case PaletteExportFormat::json:
         return PaletteJSONCoder::encode(palette);
     case PaletteExportFormat::txt:

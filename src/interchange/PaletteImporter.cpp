@@ -3,6 +3,7 @@
 #include "interchange/PaletteImporter.h"
 
 #include "interchange/ASECoder.h"
+#include "interchange/CLRCoder.h"
 #include "interchange/GenericErrorText.h"
 #include "interchange/PaletteJSONCoder.h"
 #include "interchange/WholeFile.h"
@@ -31,6 +32,8 @@ Palette decoded(const QByteArray& data, const QString& extension, ReferenceTime 
             return ASECoder::decode(data, now);
         if (extension == QStringLiteral("json"))
             return PaletteJSONCoder::makePalette(PaletteJSONCoder::decode(data), now);
+        return CLRCoder::decode(data, now);
+    } catch (const CLRCoderError&) {
         throw PaletteImporterError(Kind::malformedFile, genericErrorText("CLRCoderError"));
     } catch (const ASECoderError&) {
         throw PaletteImporterError(Kind::malformedFile, genericErrorText("ASECoderError"));

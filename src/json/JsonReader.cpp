@@ -83,6 +83,12 @@ double JsonReader::number() {
     return std::copysign(0.0, text.front() == '-' ? -1.0 : 1.0);
 }
 
+bool JsonReader::boolean() {
+    const bool value = peek() == 't';
+    takeWord(value ? "true" : "false");
+    return value;
+}
+
 bool JsonReader::null() {
     return peek() == 'n' && takeWord("null");
 }

@@ -47,6 +47,7 @@ public:
 
     [[nodiscard]] QString string();
     [[nodiscard]] double number();
+    [[nodiscard]] bool boolean();
     /// A string that spells an id, in either case.
     [[nodiscard]] QUuid uuid();
     /// Takes the value if it is null, and says whether it was.

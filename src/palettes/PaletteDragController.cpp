@@ -284,6 +284,11 @@ void PaletteDragController::end() {
         swatchDragEnded(std::get<SwatchItem>(*m_dragging).paletteId);
 }
 
+void PaletteDragController::abandon() {
+    m_localPalettes.reset();
+    clearScales();
+}
+
 std::optional<PaletteDragController::Floating>
 PaletteDragController::floating(const QRectF& bounds) const {
     if (!m_dragging)

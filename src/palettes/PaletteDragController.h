@@ -92,6 +92,9 @@ public:
     /// Ends whatever is being dragged.
     void end();
 
+    /// Drops what has been arranged, without a write: the drag goes on outside the list.
+    void abandon();
+
     /// Back to idle; the working copies stay.
     void reset();
 

@@ -58,6 +58,7 @@ public:
 
     [[nodiscard]] HoverState& hover() { return m_hover; }
     [[nodiscard]] PaletteDragController& drag() { return m_drag; }
+    [[nodiscard]] const PaletteDragController& drag() const { return m_drag; }
     [[nodiscard]] AppSettings& settings() { return m_settings; }
     [[nodiscard]] UserPaletteStore& store() { return m_store; }
     [[nodiscard]] PaletteCommands& commands() { return m_commands; }

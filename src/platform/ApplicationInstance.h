@@ -6,6 +6,9 @@
 
 namespace dropshade {
 
+/// What the program does when the desktop asks for it by name.
+enum class ApplicationAction { QuickPick, Convert, Palettes, Contrast };
+
 /// Keeps the program to one process for each session of the user.
 class ApplicationInstance : public QObject {
     Q_OBJECT
@@ -23,6 +26,8 @@ public:
 Q_SIGNALS:
     /// Somebody started the program once more.
     void activated();
+    /// The desktop asks for one thing alone: a key that the user bound there, a row of a launcher.
+    void actionActivated(dropshade::ApplicationAction action);
 };
 
 } // namespace dropshade

@@ -35,6 +35,8 @@ struct Platform {
     std::unique_ptr<HotKeyRegistrar> hotKeys;
     std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<SoundPlayer> soundPlayer;
+    /// Another one, which plays what the user tries out.
+    std::unique_ptr<SoundPlayer> previewPlayer;
     std::unique_ptr<FeedFetcher> feedFetcher;
     std::unique_ptr<CloudKeyValueStore> cloudStore;
     std::unique_ptr<CloudAccounts> cloudAccounts;

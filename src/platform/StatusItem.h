@@ -27,6 +27,9 @@ public:
     [[nodiscard]] virtual QRect geometry() const = 0;
 
 Q_SIGNALS:
+    /// The desktop has a status area, and the item is there. Once, perhaps within the first
+    /// `setIcon`.
+    void hostFound();
     void clicked(const dropshade::StatusItemClick& click);
 };
 

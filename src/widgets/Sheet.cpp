@@ -129,11 +129,12 @@ void Sheet::paintEvent(QPaintEvent*) {
 
 void Sheet::arrange() {
     setGeometry(parentWidget()->rect());
-    const QSize wanted = m_panel->layout() ? m_panel->layout()->sizeHint() : m_panel->sizeHint();
+    const QSize wanted =
+        m_panel->layout() ? m_panel->layout()->totalSizeHint() : m_panel->sizeHint();
     const int most = std::max(0, width() - 2 * metrics::space16);
     const int wide = std::min(std::max(metrics::sheetWidth, wanted.width()), most);
     const int high = std::min(m_panel->layout() && m_panel->layout()->hasHeightForWidth()
-                                  ? m_panel->layout()->heightForWidth(wide)
+                                  ? m_panel->layout()->totalHeightForWidth(wide)
                                   : wanted.height(),
                               std::max(0, height() - 2 * metrics::space16));
     const double away = 1.0 - m_presence.currentValue().toDouble();

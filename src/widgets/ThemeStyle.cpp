@@ -170,6 +170,8 @@ int ThemeStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
     case SH_Menu_MouseTracking:
     case SH_Menu_Scrollable:
         return 1;
+    // Or the Alt key closes an open menu, in the middle of a shortcut that has it.
+    case SH_MenuBar_AltKeyNavigation:
     case SH_FocusFrame_Mask:
     case SH_Menu_FlashTriggeredItem:
     case SH_Menu_FadeOutOnHide:

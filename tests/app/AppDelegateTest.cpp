@@ -122,6 +122,44 @@ TEST_F(AppDelegateTest, AFavouriteIsCopiedAndTheRecentColoursCanBeCleared) {
     EXPECT_TRUE(loadRecentColors(fakes.defaults).isEmpty());
 }
 
+TEST_F(AppDelegateTest, TheDesktopsActionPicksAndTakesAnOpenMenuAwayFirst) {
+    fakes.statusItem.click();
+    fakes.instance.activate(ApplicationAction::QuickPick);
+    EXPECT_EQ(openMenu(), nullptr);
+    fakes.scheduler.advance(std::chrono::milliseconds(100));
+    EXPECT_TRUE(fakes.screenSampler.isUp());
+    fakes.screenSampler.cancel();
+    fakes.instance.activate(ApplicationAction::QuickPick);
+    EXPECT_EQ(fakes.screenSampler.sampleCount(), 2);
+}
+
+TEST_F(AppDelegateTest, WhereThereIsAStatusAreaNothingIsExplained) {
+    fakes.scheduler.advance(std::chrono::minutes(1));
+    EXPECT_TRUE(fakes.alerts.shown().isEmpty());
+}
+
+TEST(AppDelegateWithoutStatusArea, SaysOnceHowItIsReached) {
+    FakePlatform fakes;
+    MemoryDefaults& defaults = fakes.defaults;
+    fakes.statusItem.setHasHost(false);
+    AppDelegate delegate{std::move(fakes.platform)};
+    delegate.applicationDidFinishLaunching();
+    fakes.scheduler.advance(std::chrono::seconds(9));
+    EXPECT_TRUE(fakes.alerts.shown().isEmpty());
+    fakes.scheduler.advance(std::chrono::seconds(1));
+    ASSERT_EQ(fakes.alerts.shown().size(), 1);
+    EXPECT_TRUE(fakes.alerts.shown().first().text.contains(QStringLiteral("start it once more")));
+
+    FakePlatform again;
+    for (const QString& key : defaults.keys())
+        again.defaults.setFromAnotherProcess(key, *defaults.value(key));
+    again.statusItem.setHasHost(false);
+    AppDelegate second{std::move(again.platform)};
+    second.applicationDidFinishLaunching();
+    again.scheduler.advance(std::chrono::minutes(1));
+    EXPECT_TRUE(again.alerts.shown().isEmpty());
+}
+
 TEST_F(AppDelegateTest, NoShortcutIsBoundUntilTheUserRecordsOne) {
     EXPECT_TRUE(fakes.hotKeys.combinations().empty());
 }

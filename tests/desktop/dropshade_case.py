@@ -18,6 +18,10 @@ PROGRAM = os.environ.get("DROPSHADE", str(PROJECT / "build/release/src/dropshade
 SCREENSHOTS = pathlib.Path(os.environ.get("SCREENSHOTS", "screenshots"))
 
 
+# How the store numbers the types of its values.
+STRING, DATA = 4, 5
+
+
 def hex_text(color):
     return "#%02X%02X%02X" % color
 
@@ -49,6 +53,14 @@ class DropshadeCase(unittest.TestCase):
 
     def start_program(self, **variables):
         return self.desktop.start([PROGRAM], **{**self.VARIABLES, **variables})
+
+    def restart_program(self):
+        """Ends the program and starts it again, with its icon where the desktop has a tray."""
+        self.end_program()
+        self.program = self.start_program()
+        if self.TRAY:
+            self.icon = self.desktop.tray_icon()
+        wait_until(lambda: self.desktop.bus_has_name("org.dropshade.Dropshade"), "the program")
 
     def end_program(self):
         self.program.end()
@@ -105,9 +117,22 @@ class DropshadeCase(unittest.TestCase):
         file = next(folder.rglob("defaults.sqlite"), None)
         if not file:
             return None
-        with contextlib.closing(sqlite3.connect(file)) as settings:
+        # The file is there a moment before its table.
+        with contextlib.closing(sqlite3.connect(file)) as settings, \
+                contextlib.suppress(sqlite3.OperationalError):
             row = settings.execute("SELECT value FROM defaults WHERE key = ?", (key,)).fetchone()
-        return row and row[0]
+            return row and row[0]
+        return None
+
+    def store(self, key, value):
+        """Another process writes a string, or bytes of data, which the program made a store for."""
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        wait_until(lambda: self.setting("didImportLegacyContainerPrefs"), "the store")
+        file = next(folder.rglob("defaults.sqlite"))
+        kind, stored = (STRING, value.encode("utf-16-le")) if isinstance(value, str) else (DATA, value)
+        with contextlib.closing(sqlite3.connect(file, timeout=5)) as settings, settings:
+            settings.execute("INSERT OR REPLACE INTO defaults(key, type, value) VALUES (?, ?, ?)",
+                             (key, kind, stored))
 
     def copies_counted(self):
         return self.setting("totalChecksCount") or 0

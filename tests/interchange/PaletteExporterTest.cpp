@@ -148,6 +148,7 @@ TEST_P(ExportedFile, BeginsAsItsFormatDoes) {
 INSTANTIATE_TEST_SUITE_P(
     Rows, ExportedFile,
     testing::Values(FormatRow{"Ase", PaletteExportFormat::ase, "ASEF"},
+                    FormatRow{"Clr", PaletteExportFormat::clr, "bplist00"},
                     FormatRow{"Json", PaletteExportFormat::json, "{\n  \"name\" : \"Brand\""},
                     FormatRow{"Txt", PaletteExportFormat::txt, "Brand\n"},
                     FormatRow{"Png", PaletteExportFormat::png, "\x89PNG"},

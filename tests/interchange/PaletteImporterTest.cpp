@@ -69,7 +69,8 @@ TEST_F(PaletteImporterTest, AFileNamedByItsExtensionAloneKeepsTheNameInside) {
 }
 
 TEST_F(PaletteImporterTest, EveryFormatComesBackWithItsColors) {
-    for (const PaletteExportFormat format : {PaletteExportFormat::ase, PaletteExportFormat::json}) {
+    for (const PaletteExportFormat format :
+         {PaletteExportFormat::ase, PaletteExportFormat::clr, PaletteExportFormat::json}) {
         const QString path =
             exported(qPrintable(QStringLiteral("a.") + fileExtension(format)), format);
         const Palette palette = m_importer.load(path);

@@ -148,5 +148,14 @@ TEST(JsonReader, KeepsByteOrderMarksInFrontOfAString) {
     EXPECT_EQ(reader.string(), QStringLiteral("\uFEFF\uFEFFa"));
 }
 
+TEST(JsonReader, ReadsBooleansAndNothingElseAsOne) {
+    JsonReader json("[true, false]");
+    QList<bool> values;
+    json.array([&] { values.append(json.boolean()); });
+    EXPECT_EQ(values, (QList<bool>{true, false}));
+    for (const char* text : {"1", "\"true\"", "null", "tru", "", "True"})
+        EXPECT_THROW(static_cast<void>(JsonReader(text).boolean()), JsonError) << text;
+}
+
 } // namespace
 } // namespace dropshade

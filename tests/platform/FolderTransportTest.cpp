@@ -6,7 +6,7 @@
 #include "platform/linux/FolderWorker.h"
 #include "platform/linux/replica/ReplicaRecord.h"
 #include "support/DefaultsFolder.h"
-#include "support/FolderMember.h"
+#include "support/CloudMember.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 
 // A folder shared by two processes, one of which is killed in the midst of its writes.
 
-#include "support/FolderMember.h"
+#include "support/CloudMember.h"
 #include "support/QtPrinters.h"
 #include "support/Seed.h"
 #include "support/WriterProcess.h"

@@ -60,6 +60,8 @@ protected:
     void SetUp() override {
         if (!Panel::canTest())
             GTEST_SKIP() << "needs an X server with a tray";
+        QObject::connect(&m_panel.item, &StatusItem::hostFound, &m_panel.item,
+                         [this] { ++m_hostsFound; });
         QPixmap square(22, 22);
         square.fill(Qt::red);
         m_panel.item.setIcon(QIcon(square));
@@ -67,6 +69,7 @@ protected:
 
     Panel m_panel;
     std::vector<StatusItemClick> m_clicks;
+    int m_hostsFound = 0;
 };
 
 struct PanelNames {
@@ -83,6 +86,7 @@ TYPED_TEST(StatusItemContract, ShowsOnceItHasAnIconAndTellsWhere) {
     EXPECT_TRUE(this->m_panel.showsItem());
     EXPECT_FALSE(this->m_panel.item.geometry().isEmpty());
     EXPECT_TRUE(this->m_clicks.empty());
+    EXPECT_EQ(this->m_hostsFound, 1);
 }
 
 TYPED_TEST(StatusItemContract, ReportsTheButtonOfEachClick) {

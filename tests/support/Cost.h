@@ -58,4 +58,22 @@ inline Cost costOf(const std::function<void()>& work) {
     return {seconds, std::max<qint64>(0, cost::residentBytes("VmHWM:") - before)};
 }
 
+/// How much memory reading a file of so many bytes may take: what keeps a hostile file from taking
+/// the machine with it.
+inline qint64 mostBytesFor(qsizetype fileSize) {
+    return 64 * qint64(fileSize) + 1024 * 1024;
+}
+
+/// How much processor time it may take: many times what it takes on a busy machine, and a small
+/// part of what anything takes that grows with the square of a file of megabytes.
+inline double mostSecondsFor(qsizetype fileSize) {
+    return 2e-6 * double(fileSize);
+}
+
+/// A file of about so many bytes, made to cost more than it should.
+struct HostileFile {
+    const char* name;
+    QByteArray (*bytes)(qsizetype size);
+};
+
 } // namespace dropshade

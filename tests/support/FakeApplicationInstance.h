@@ -22,6 +22,9 @@ public:
     /// Somebody starts the program once more.
     void activate() { Q_EMIT activated(); }
 
+    /// The desktop asks for an action.
+    void activate(ApplicationAction action) { Q_EMIT actionActivated(action); }
+
 private:
     Role m_role = Role::First;
     int m_claimCount = 0;

@@ -35,6 +35,7 @@ struct FakePlatform {
     FakeHotKeyRegistrar& hotKeys = put<FakeHotKeyRegistrar>(platform.hotKeys);
     FakeKeyboardLayout& keyboardLayout = put<FakeKeyboardLayout>(platform.keyboardLayout);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
+    FakeSoundPlayer& previewPlayer = put<FakeSoundPlayer>(platform.previewPlayer);
     FakeFeedFetcher& feedFetcher = put<FakeFeedFetcher>(platform.feedFetcher);
     MemoryCloudStore& cloudStore = put<MemoryCloudStore>(platform.cloudStore);
     FakeCloudAccounts& cloudAccounts = put<FakeCloudAccounts>(platform.cloudAccounts);

@@ -7,6 +7,9 @@
 #include <QDBusMessage>
 #include <QVariantMap>
 
+#include <array>
+#include <utility>
+
 namespace dropshade {
 
 namespace {
@@ -14,6 +17,14 @@ namespace {
 const QString service = QStringLiteral("org.dropshade.Dropshade");
 const QString objectPath = QStringLiteral("/org/dropshade/Dropshade");
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
+
+/// The names of the actions, as the desktop entry has them.
+constexpr std::array<std::pair<const char*, ApplicationAction>, 4> actions{{
+    {"quick-pick", ApplicationAction::QuickPick},
+    {"convert", ApplicationAction::Convert},
+    {"palettes", ApplicationAction::Palettes},
+    {"contrast", ApplicationAction::Contrast},
+}};
 
 /// The first process may be busy, but a start must not hang on it.
 constexpr int handoverTimeoutMilliseconds = 2000;
@@ -29,6 +40,19 @@ public:
 
 public Q_SLOTS:
     void Activate(const QVariantMap&) { Q_EMIT m_instance.activated(); }
+
+    void ActivateAction(const QString& name, const QVariantList&, const QVariantMap&,
+                        const QDBusMessage& call) {
+        for (const auto& [known, action] : actions) {
+            if (name == QLatin1String(known)) {
+                Q_EMIT m_instance.actionActivated(action);
+                return;
+            }
+        }
+        call.setDelayedReply(true);
+        QDBusConnection::sessionBus().send(call.createErrorReply(
+            QDBusError::InvalidArgs, QStringLiteral("There is no action of this name")));
+    }
 
 private:
     DBusApplicationInstance& m_instance;

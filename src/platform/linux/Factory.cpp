@@ -53,6 +53,11 @@ std::unique_ptr<HotKeyRegistrar> makeHotKeys() {
     return std::make_unique<NullHotKeyRegistrar>();
 }
 
+std::unique_ptr<SoundPlayer> makeSoundPlayer() {
+    return std::make_unique<SoundProcess>(
+        [] { return companionFile(QStringLiteral("dropshade-sound")); });
+}
+
 } // namespace
 
 Platform makePlatform() {
@@ -66,8 +71,8 @@ Platform makePlatform() {
     platform.statusItem = std::make_unique<TrayStatusItem>();
     platform.hotKeys = makeHotKeys();
     platform.keyboardLayout = std::make_unique<XkbKeyboardLayout>();
-    platform.soundPlayer = std::make_unique<SoundProcess>(
-        [] { return companionFile(QStringLiteral("dropshade-sound")); });
+    platform.soundPlayer = makeSoundPlayer();
+    platform.previewPlayer = makeSoundPlayer();
     platform.feedFetcher = std::make_unique<LazyFeedFetcher>(
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
     platform.cloudStore = makeCloudStore(*platform.defaults, *platform.scheduler);

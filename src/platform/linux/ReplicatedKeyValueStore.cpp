@@ -306,12 +306,17 @@ void ReplicatedKeyValueStore::take(const QList<RemoteEntry>& entries) {
         take(entry);
 }
 
+bool ReplicatedKeyValueStore::isNews(const RemoteEntry& entry, const ReplicaRow& ours) const {
+    if (entry.version.isEmpty() || ours.version.isEmpty())
+        return entry.version != ours.version;
+    return m_transport->supersedes(entry.version, ours.version);
+}
+
 void ReplicatedKeyValueStore::take(const RemoteEntry& entry) {
     const Row ours = row(entry.key);
     if (!ours && !entry.value)
         return;
-    if (ours && !entry.version.isEmpty() && !ours->version.isEmpty() &&
-        !m_transport->supersedes(entry.version, ours->version))
+    if (ours && !isNews(entry, *ours))
         return;
     if (ours && ours->serial > 0 && ours->value != entry.value) {
         resolve(entry.key, *ours, entry);

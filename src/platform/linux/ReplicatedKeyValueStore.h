@@ -65,6 +65,7 @@ private:
     void distrustRemote();
     void take(const QList<RemoteEntry>& entries);
     void take(const RemoteEntry& entry);
+    [[nodiscard]] bool isNews(const RemoteEntry& entry, const ReplicaRow& ours) const;
     void forgetAllBut(const QStringList& keys);
     void finishCatchingUp(const QByteArray& cursor);
     void takeCopy(const RemoteEntry& entry, const QString& name);

@@ -74,6 +74,7 @@ void TrayStatusItem::createTrayIcon() {
     m_trayIcon->show();
     if (QWidget* widget = embeddedWidget())
         widget->installEventFilter(this);
+    Q_EMIT hostFound();
 }
 
 bool TrayStatusItem::eventFilter(QObject* watched, QEvent* event) {
