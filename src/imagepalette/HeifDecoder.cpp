@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "imagepalette/HeifDecoder.h"
 
-#include "imagepalette/HeifPointer.h"
+#include "imagepalette/LibHeif.h"
 
 #include <QColorSpace>
 #include <QPointF>
@@ -11,44 +11,46 @@ namespace dropshade {
 
 namespace {
 
-using Handle = HeifPointer<heif_image_handle, heif_image_handle_release>;
-using Options = HeifPointer<heif_decoding_options, heif_decoding_options_free>;
+using Context = HeifPointer<heif_context, giveBack<&LibHeif::contextFree>>;
+using ColorProfile = HeifPointer<heif_color_profile_nclx, giveBack<&LibHeif::nclxColorProfileFree>>;
+using Handle = HeifPointer<heif_image_handle, giveBack<&LibHeif::imageHandleRelease>>;
+using Options = HeifPointer<heif_decoding_options, giveBack<&LibHeif::decodingOptionsFree>>;
 
 bool succeeded(const heif_error& error) {
     return error.code == heif_error_Ok;
 }
 
-HeifContext contextOf(const QByteArray& data) {
-    HeifContext context(heif_context_alloc());
+Context contextOf(const LibHeif& heif, const QByteArray& data) {
+    Context context(heif.contextAlloc());
     if (!context ||
-        !succeeded(heif_context_read_from_memory_without_copy(
+        !succeeded(heif.contextReadFromMemoryWithoutCopy(
             context.get(), data.constData(), static_cast<std::size_t>(data.size()), nullptr)))
         return nullptr;
     return context;
 }
 
-Handle primaryImageOf(heif_context* context) {
+Handle primaryImageOf(const LibHeif& heif, heif_context* context) {
     heif_image_handle* handle = nullptr;
-    if (!succeeded(heif_context_get_primary_image_handle(context, &handle)))
+    if (!succeeded(heif.contextGetPrimaryImageHandle(context, &handle)))
         return nullptr;
     return Handle(handle);
 }
 
-QColorSpace iccColorSpace(const heif_image_handle* handle) {
-    const std::size_t size = heif_image_handle_get_raw_color_profile_size(handle);
+QColorSpace iccColorSpace(const LibHeif& heif, const heif_image_handle* handle) {
+    const std::size_t size = heif.imageHandleGetRawColorProfileSize(handle);
     QByteArray profile(static_cast<qsizetype>(size), Qt::Uninitialized);
-    if (size == 0 || !succeeded(heif_image_handle_get_raw_color_profile(handle, profile.data())))
+    if (size == 0 || !succeeded(heif.imageHandleGetRawColorProfile(handle, profile.data())))
         return {};
     return QColorSpace::fromIccProfile(profile);
 }
 
 /// Code points of ITU-T H.273. Television's curves are taken for that of sRGB, as browsers take
 /// them.
-QColorSpace codedColorSpace(const heif_image_handle* handle) {
+QColorSpace codedColorSpace(const LibHeif& heif, const heif_image_handle* handle) {
     heif_color_profile_nclx* raw = nullptr;
-    const bool isKnown = succeeded(heif_image_handle_get_nclx_color_profile(handle, &raw));
+    const bool isKnown = succeeded(heif.imageHandleGetNclxColorProfile(handle, &raw));
     // Given out even where a code point in it is unknown.
-    const HeifColorProfile profile(raw);
+    const ColorProfile profile(raw);
     if (!isKnown || !profile)
         return QColorSpace::SRgb;
     auto curve = QColorSpace::TransferFunction::SRgb;
@@ -75,32 +77,34 @@ QColorSpace codedColorSpace(const heif_image_handle* handle) {
     }
 }
 
-QColorSpace colorSpaceOf(const heif_image_handle* handle) {
-    const QColorSpace icc = iccColorSpace(handle);
-    return icc.isValid() ? icc : codedColorSpace(handle);
+QColorSpace colorSpaceOf(const LibHeif& heif, const heif_image_handle* handle) {
+    const QColorSpace icc = iccColorSpace(heif, handle);
+    return icc.isValid() ? icc : codedColorSpace(heif, handle);
 }
 
 /// The decoded pixels, which the image keeps alive.
-QImage decoded(const heif_image_handle* handle) {
-    const Options options(heif_decoding_options_alloc());
+QImage decoded(const LibHeif& heif, const heif_image_handle* handle) {
+    const Options options(heif.decodingOptionsAlloc());
     options->convert_hdr_to_8bit = 1;
     options->strict_decoding = 1;
     heif_image* image = nullptr;
-    if (!succeeded(heif_decode_image(handle, &image, heif_colorspace_RGB,
-                                     heif_chroma_interleaved_RGBA, options.get())))
+    if (!succeeded(heif.decodeImage(handle, &image, heif_colorspace_RGB,
+                                    heif_chroma_interleaved_RGBA, options.get())))
         return {};
     int stride = 0;
     const std::uint8_t* plane =
-        heif_image_get_plane_readonly(image, heif_channel_interleaved, &stride);
-    const auto format = !heif_image_handle_has_alpha_channel(handle) ? QImage::Format_RGBX8888
-                        : heif_image_handle_is_premultiplied_alpha(handle)
+        heif.imageGetPlaneReadonly(image, heif_channel_interleaved, &stride);
+    const auto format = !heif.imageHandleHasAlphaChannel(handle) ? QImage::Format_RGBX8888
+                        : heif.imageHandleIsPremultipliedAlpha(handle)
                             ? QImage::Format_RGBA8888_Premultiplied
                             : QImage::Format_RGBA8888;
-    const auto release = [](void* owned) { heif_image_release(static_cast<heif_image*>(owned)); };
+    const auto release = [](void* owned) {
+        giveBack<&LibHeif::imageRelease>(static_cast<heif_image*>(owned));
+    };
     QImage result;
     if (plane)
-        result = QImage(plane, heif_image_get_width(image, heif_channel_interleaved),
-                        heif_image_get_height(image, heif_channel_interleaved), stride, format,
+        result = QImage(plane, heif.imageGetWidth(image, heif_channel_interleaved),
+                        heif.imageGetHeight(image, heif_channel_interleaved), stride, format,
                         release, image);
     if (result.isNull())
         release(image);
@@ -110,16 +114,20 @@ QImage decoded(const heif_image_handle* handle) {
 } // namespace
 
 std::optional<QImage> decodeHeif(const QByteArray& data) {
-    const HeifContext context = contextOf(data);
-    const Handle handle = context ? primaryImageOf(context.get()) : nullptr;
+    const LibHeif* loaded = LibHeif::load();
+    if (!loaded)
+        return std::nullopt;
+    const LibHeif& heif = *loaded;
+    const Context context = contextOf(heif, data);
+    const Handle handle = context ? primaryImageOf(heif, context.get()) : nullptr;
     if (!handle)
         return std::nullopt;
-    const QSize size(heif_image_handle_get_width(handle.get()),
-                     heif_image_handle_get_height(handle.get()));
-    QImage image = decoded(handle.get());
+    const QSize size(heif.imageHandleGetWidth(handle.get()),
+                     heif.imageHandleGetHeight(handle.get()));
+    QImage image = decoded(heif, handle.get());
     if (image.isNull() || image.size() != size)
         return std::nullopt;
-    image.setColorSpace(colorSpaceOf(handle.get()));
+    image.setColorSpace(colorSpaceOf(heif, handle.get()));
     return image;
 }
 

@@ -167,6 +167,13 @@ std::optional<LoadedImage> loadHeif(const QByteArray& data) {
 
 } // namespace
 
+QStringList ImageLoader::fileExtensions() {
+    return {QStringLiteral("png"),  QStringLiteral("jpg"),  QStringLiteral("jpeg"),
+            QStringLiteral("heic"), QStringLiteral("heif"), QStringLiteral("tif"),
+            QStringLiteral("tiff"), QStringLiteral("gif"),  QStringLiteral("bmp"),
+            QStringLiteral("webp")};
+}
+
 std::optional<LoadedImage> ImageLoader::loadData(const QByteArray& data) {
     if (data.size() > largestFile)
         return std::nullopt;

@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -37,6 +38,10 @@ inline constexpr int longestSide = 1600;
 
 /// In bytes.
 inline constexpr qint64 largestFile = 64 * 1024 * 1024;
+
+/// What files of these formats are usually called: without dots, in lower case. The loader doesn't
+/// ask for it.
+[[nodiscard]] QStringList fileExtensions();
 
 [[nodiscard]] std::optional<LoadedImage> loadFile(const QString& path);
 [[nodiscard]] std::optional<LoadedImage> loadData(const QByteArray& data);

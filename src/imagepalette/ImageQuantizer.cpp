@@ -7,6 +7,14 @@
 #include <random>
 #include <utility>
 
+namespace dropshade {
+
+SRGBColor colorOf(const QuantizedColor& color) {
+    return {color.r / 255.0, color.g / 255.0, color.b / 255.0, 1.0};
+}
+
+} // namespace dropshade
+
 namespace dropshade::ImageQuantizer {
 
 namespace {

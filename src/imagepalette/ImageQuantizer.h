@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "color/SRGBColor.h"
 #include "imagepalette/PixelBuffer.h"
 
 #include <array>
@@ -22,6 +23,9 @@ struct QuantizedColor {
 
     friend constexpr bool operator==(const QuantizedColor&, const QuantizedColor&) = default;
 };
+
+/// The same colour, opaque.
+[[nodiscard]] SRGBColor colorOf(const QuantizedColor& color);
 
 enum class QuantizationAlgorithm { kMeans, medianCut, octree };
 

@@ -2,34 +2,27 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/LittleCms.h"
 
-#include <QLibrary>
+#include "libraries/LateLibrary.h"
 
 namespace dropshade {
 namespace {
 
-/// The number in the library's name that changes when its functions do.
 constexpr int interfaceVersion = 2;
 
-template <typename Function>
-bool resolve(QLibrary& library, const char* name, Function& function) {
-    function = reinterpret_cast<Function>(library.resolve(name));
-    return function != nullptr;
-}
-
 LittleCms loaded() {
-    QLibrary library(QStringLiteral("lcms2"), interfaceVersion);
+    LateLibrary library(QStringLiteral("lcms2"), interfaceVersion);
     LittleCms lcms;
-    const bool isWhole = resolve(library, "cmsCloseProfile", lcms.closeProfile) &&
-                         resolve(library, "cmsCreateLab4Profile", lcms.createLab4Profile) &&
-                         resolve(library, "cmsCreate_sRGBProfile", lcms.createSRGBProfile) &&
-                         resolve(library, "cmsCreateTransform", lcms.createTransform) &&
-                         resolve(library, "cmsDeleteTransform", lcms.deleteTransform) &&
-                         resolve(library, "cmsDoTransform", lcms.doTransform) &&
-                         resolve(library, "cmsGetColorSpace", lcms.getColorSpace) &&
-                         resolve(library, "cmsIsMatrixShaper", lcms.isMatrixShaper) &&
-                         resolve(library, "cmsIsTag", lcms.isTag) &&
-                         resolve(library, "cmsOpenProfileFromMem", lcms.openProfileFromMem);
-    return isWhole ? lcms : LittleCms();
+    library.resolve("cmsCloseProfile", lcms.closeProfile)
+        .resolve("cmsCreateLab4Profile", lcms.createLab4Profile)
+        .resolve("cmsCreate_sRGBProfile", lcms.createSRGBProfile)
+        .resolve("cmsCreateTransform", lcms.createTransform)
+        .resolve("cmsDeleteTransform", lcms.deleteTransform)
+        .resolve("cmsDoTransform", lcms.doTransform)
+        .resolve("cmsGetColorSpace", lcms.getColorSpace)
+        .resolve("cmsIsMatrixShaper", lcms.isMatrixShaper)
+        .resolve("cmsIsTag", lcms.isTag)
+        .resolve("cmsOpenProfileFromMem", lcms.openProfileFromMem);
+    return library.isWhole() ? lcms : LittleCms();
 }
 
 } // namespace

@@ -6,8 +6,8 @@
 
 namespace dropshade {
 
-/// The functions of LittleCMS that are used, from the library loaded at the first call and kept.
-/// Linked, it would cost every start of the program; most never see such a colour.
+/// The functions of LittleCMS that are used, from the library loaded at the first call and kept:
+/// most runs of the program never see a colour that needs them.
 struct LittleCms {
     decltype(&cmsCloseProfile) closeProfile = nullptr;
     decltype(&cmsCreateLab4Profile) createLab4Profile = nullptr;

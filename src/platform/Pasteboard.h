@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QMimeData;
+
 namespace dropshade {
 
 /// The general clipboard of the desktop.
@@ -16,6 +18,11 @@ public:
 
     /// The plain text on the clipboard; empty where there is none.
     [[nodiscard]] virtual QString text() const = 0;
+
+    /// All that is on offer, in its owner's types: images by their bytes, files by their locations.
+    /// Null where there is nothing. Good until the event loop runs again; to read a type is to ask
+    /// the owner for it.
+    [[nodiscard]] virtual const QMimeData* content() const = 0;
 };
 
 } // namespace dropshade

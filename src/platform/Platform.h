@@ -4,6 +4,7 @@
 
 #include "platform/Alerts.h"
 #include "platform/ApplicationInstance.h"
+#include "platform/BackgroundQueue.h"
 #include "platform/CloudAccount.h"
 #include "platform/CloudKeyValueStore.h"
 #include "platform/DesktopAppearance.h"
@@ -28,6 +29,7 @@ struct Platform {
     std::unique_ptr<ApplicationInstance> instance;
     std::unique_ptr<UserDefaults> defaults;
     std::unique_ptr<Scheduler> scheduler;
+    std::unique_ptr<BackgroundQueue> backgroundQueue;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<DesktopAppearance> appearance;
     std::unique_ptr<ScreenSampler> screenSampler;

@@ -1,7 +1,9 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "imagepalette/HeifPointer.h"
+
 #include "imagepalette/SampleFiles.h"
+#include <libheif/heif.h>
 
 #include <cstring>
 
@@ -16,6 +18,8 @@ namespace dropshade::SampleFiles {
 
 namespace {
 
+using Context = HeifPointer<heif_context, heif_context_free>;
+using ColorProfile = HeifPointer<heif_color_profile_nclx, heif_nclx_color_profile_free>;
 using Encoder = HeifPointer<heif_encoder, heif_encoder_release>;
 using Image = HeifPointer<heif_image, heif_image_release>;
 using Options = HeifPointer<heif_encoding_options, heif_encoding_options_free>;
@@ -57,7 +61,7 @@ heif_error append(heif_context*, const void* data, std::size_t size, void* targe
 } // namespace
 
 QByteArray heic(const QImage& image, const HeicOptions& wanted) {
-    const HeifContext context(heif_context_alloc());
+    const Context context(heif_context_alloc());
     heif_encoder* rawEncoder = nullptr;
     heif_context_get_encoder_for_format(context.get(), heif_compression_HEVC, &rawEncoder);
     if (!rawEncoder)
@@ -69,7 +73,7 @@ QByteArray heic(const QImage& image, const HeicOptions& wanted) {
     options->image_orientation = orientationOf(wanted.rotateDegrees);
     // Without this the encoder leaves coded primaries out, for an old reader's sake.
     options->macOS_compatibility_workaround_no_nclx_profile = 0;
-    HeifColorProfile profile;
+    ColorProfile profile;
     if (!wanted.iccProfile.isEmpty())
         heif_image_set_raw_color_profile(pixels.get(), "prof", wanted.iccProfile.constData(),
                                          static_cast<std::size_t>(wanted.iccProfile.size()));

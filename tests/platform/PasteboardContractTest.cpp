@@ -54,6 +54,49 @@ TYPED_TEST(PasteboardContract, TakesAnEmptyText) {
     EXPECT_EQ(this->m_pasteboard.text(), QString());
 }
 
+/// As another program copies it.
+template <typename Adapter>
+void copyElsewhere(Adapter& pasteboard, std::unique_ptr<QMimeData> content) {
+    if constexpr (std::is_same_v<Adapter, FakePasteboard>)
+        pasteboard.setContent(std::move(content));
+    else
+        QGuiApplication::clipboard()->setMimeData(content.release());
+}
+
+TYPED_TEST(PasteboardContract, GivesAnImageInTheBytesThatWereCopied) {
+    const QByteArray bytes("\x89PNG\r\n\x1a\n\0 and more", 19);
+    auto copied = std::make_unique<QMimeData>();
+    copied->setData(QStringLiteral("image/png"), bytes);
+    copyElsewhere(this->m_pasteboard, std::move(copied));
+    const QMimeData* content = this->m_pasteboard.content();
+    ASSERT_NE(content, nullptr);
+    EXPECT_TRUE(content->hasFormat(QStringLiteral("image/png")));
+    EXPECT_EQ(content->data(QStringLiteral("image/png")), bytes);
+}
+
+TYPED_TEST(PasteboardContract, GivesTheLocationsOfCopiedFiles) {
+    const QList<QUrl> urls{QUrl(QStringLiteral("file:///tmp/a%20b.png")),
+                           QUrl(QStringLiteral("file:///tmp/c.png"))};
+    auto copied = std::make_unique<QMimeData>();
+    copied->setUrls(urls);
+    copyElsewhere(this->m_pasteboard, std::move(copied));
+    const QMimeData* content = this->m_pasteboard.content();
+    ASSERT_NE(content, nullptr);
+    EXPECT_EQ(content->urls(), urls);
+    EXPECT_EQ(this->m_pasteboard.text(), QString());
+}
+
+TYPED_TEST(PasteboardContract, ATextOfItsOwnIsAllThatItThenOffers) {
+    auto copied = std::make_unique<QMimeData>();
+    copied->setData(QStringLiteral("image/png"), QByteArray("x"));
+    copyElsewhere(this->m_pasteboard, std::move(copied));
+    this->m_pasteboard.setText(QStringLiteral("#FF0000"));
+    const QMimeData* content = this->m_pasteboard.content();
+    ASSERT_NE(content, nullptr);
+    EXPECT_FALSE(content->hasFormat(QStringLiteral("image/png")));
+    EXPECT_TRUE(content->urls().isEmpty());
+}
+
 TEST(FakePasteboardRecord, HoldsEachTextOfTheProgramAlone) {
     FakePasteboard pasteboard;
     pasteboard.setText(QStringLiteral("a"));

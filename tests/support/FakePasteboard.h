@@ -4,7 +4,10 @@
 
 #include "platform/Pasteboard.h"
 
+#include <QMimeData>
 #include <QStringList>
+
+#include <memory>
 
 namespace dropshade {
 
@@ -13,19 +16,30 @@ class FakePasteboard : public Pasteboard {
 public:
     void setText(const QString& text) override {
         m_copies.append(text);
-        m_content = text;
+        setTextFromAnotherProgram(text);
     }
-    [[nodiscard]] QString text() const override { return m_content; }
+    [[nodiscard]] QString text() const override {
+        return m_content && m_content->hasFormat(QStringLiteral("text/plain")) ? m_content->text()
+                                                                               : QString();
+    }
+    [[nodiscard]] const QMimeData* content() const override { return m_content.get(); }
 
     /// Each text set by the program, in order.
     [[nodiscard]] const QStringList& copies() const { return m_copies; }
 
     /// Another program copies `text`.
-    void setTextFromAnotherProgram(const QString& text) { m_content = text; }
+    void setTextFromAnotherProgram(const QString& text) {
+        auto content = std::make_unique<QMimeData>();
+        content->setText(text);
+        setContent(std::move(content));
+    }
+
+    /// Another program copies whatever there is in `content`.
+    void setContent(std::unique_ptr<QMimeData> content) { m_content = std::move(content); }
 
 private:
     QStringList m_copies;
-    QString m_content;
+    std::unique_ptr<QMimeData> m_content;
 };
 
 } // namespace dropshade

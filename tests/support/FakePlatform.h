@@ -16,6 +16,7 @@
 #include "support/FakeScreenSampler.h"
 #include "support/FakeSoundPlayer.h"
 #include "support/FakeStatusItem.h"
+#include "support/ManualBackgroundQueue.h"
 #include "support/ManualScheduler.h"
 #include "support/MemoryCloudStore.h"
 #include "support/MemoryDefaults.h"
@@ -28,6 +29,7 @@ struct FakePlatform {
     FakeApplicationInstance& instance = put<FakeApplicationInstance>(platform.instance);
     MemoryDefaults& defaults = put<MemoryDefaults>(platform.defaults);
     ManualScheduler& scheduler = put<ManualScheduler>(platform.scheduler);
+    ManualBackgroundQueue& backgroundQueue = put<ManualBackgroundQueue>(platform.backgroundQueue);
     FakePasteboard& pasteboard = put<FakePasteboard>(platform.pasteboard);
     FakeAppearance& appearance = put<FakeAppearance>(platform.appearance);
     FakeScreenSampler& screenSampler = put<FakeScreenSampler>(platform.screenSampler);

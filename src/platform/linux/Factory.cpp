@@ -8,6 +8,7 @@
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
 #include "platform/linux/NullHotKeyRegistrar.h"
+#include "platform/linux/PoolBackgroundQueue.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalScreenSampler.h"
 #include "platform/linux/QtAlerts.h"
@@ -65,6 +66,7 @@ Platform makePlatform() {
     platform.instance = std::make_unique<DBusApplicationInstance>();
     platform.defaults = std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath());
     platform.scheduler = std::make_unique<QtScheduler>();
+    platform.backgroundQueue = std::make_unique<PoolBackgroundQueue>();
     platform.pasteboard = makePasteboard();
     platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
     platform.screenSampler = makeSampler(*platform.appearance);

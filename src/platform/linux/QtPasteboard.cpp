@@ -14,9 +14,13 @@ void QtPasteboard::setText(const QString& text) {
 
 QString QtPasteboard::text() const {
     // QMimeData would also make up a text from copied files; only what was offered as text counts.
-    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-    const bool hasText = content != nullptr && content->hasFormat(QStringLiteral("text/plain"));
-    return hasText ? content->text() : QString();
+    const QMimeData* offered = content();
+    const bool hasText = offered != nullptr && offered->hasFormat(QStringLiteral("text/plain"));
+    return hasText ? offered->text() : QString();
+}
+
+const QMimeData* QtPasteboard::content() const {
+    return QGuiApplication::clipboard()->mimeData();
 }
 
 } // namespace dropshade

@@ -11,6 +11,7 @@ class QtPasteboard : public Pasteboard {
 public:
     void setText(const QString& text) override;
     [[nodiscard]] QString text() const override;
+    [[nodiscard]] const QMimeData* content() const override;
 };
 
 } // namespace dropshade
