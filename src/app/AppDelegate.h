@@ -3,10 +3,12 @@
 #pragma once
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "app/AboutWindowController.h"
 #include "app/AppSettings.h"
 #include "app/ColorCopier.h"
 #include "app/ColorPickerService.h"
 #include "app/ColorWindowSurroundings.h"
+#include "app/SettingsViewController.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
 #include "app/UpdateDialogs.h"
@@ -103,6 +105,11 @@ public:
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
 
+    // The owners of the windows, made at the first call.
+
+    SettingsViewController& settingsController();
+    AboutWindowController& aboutController();
+
 Q_SIGNALS:
     /// The user asked for the end of the program.
     void quitRequested();
@@ -152,6 +159,8 @@ private:
     std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<PalettesWindowController> m_palettesController;
     std::unique_ptr<ScheduledWork> m_presetRequest;
+    std::unique_ptr<SettingsViewController> m_settingsController;
+    std::unique_ptr<AboutWindowController> m_aboutController;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
     std::unique_ptr<ScheduledWork> m_paletteLoad;
     /// Waits for a status area to come up, as long as there is none.

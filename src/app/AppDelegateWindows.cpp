@@ -8,6 +8,8 @@
 
 #include <QApplication>
 
+#include <QDesktopServices>
+
 namespace dropshade {
 
 // Every way to a window ends here: a row of the menu, a global shortcut, an action on the bus.
@@ -139,8 +141,39 @@ void AppDelegate::exportPaletteTo(const Palette& palette, PaletteExportFormat fo
     m_paletteExporter.exportPalette(palette, format);
 }
 
-void AppDelegate::openSettings() {}
+void AppDelegate::openSettings() {
+    settingsController().show();
+}
 
-void AppDelegate::openAbout() {}
+SettingsViewController& AppDelegate::settingsController() {
+    if (!m_settingsController) {
+        const Platform& platform = m_platform;
+        m_settingsController =
+            std::make_unique<SettingsViewController>(SettingsViewController::Surroundings{
+                look(),
+                {*platform.defaults, *platform.scheduler, m_settings, *platform.previewPlayer,
+                 *platform.loginItem, [this]() -> UpdateService& { return updateService(); },
+                 [this]() -> CloudSyncEngine& { return syncEngine(); }},
+                {*platform.defaults, *platform.scheduler, cloudAccounts(),
+                 [this] { syncAccountDidChange(); }},
+                m_shortcuts,
+                *platform.alerts,
+                *platform.filePanels});
+    }
+    return *m_settingsController;
+}
+
+void AppDelegate::openAbout() {
+    aboutController().show();
+}
+
+AboutWindowController& AppDelegate::aboutController() {
+    if (!m_aboutController)
+        m_aboutController = std::make_unique<AboutWindowController>(
+            AboutWindowController::Surroundings{look(), *m_platform.defaults, [](const QUrl& url) {
+                                                    QDesktopServices::openUrl(url);
+                                                }});
+    return *m_aboutController;
+}
 
 } // namespace dropshade
