@@ -3,6 +3,8 @@
 #include "app/AppDelegate.h"
 
 #include "KeyboardShortcuts/ShortcutDescription.h"
+#include "imagepalette/ImageOffer.h"
+#include "palettes/PalettesWindow.h"
 
 namespace dropshade {
 
@@ -34,8 +36,24 @@ void AppDelegate::openPalettes() {
 
 void AppDelegate::openContrast() {}
 
-void AppDelegate::openNewPaletteFromImage() {
+NewPaletteFromImageWindowController& AppDelegate::newPaletteFromImageController() {
+    if (!m_newPaletteFromImageController)
+        m_newPaletteFromImageController = std::make_unique<NewPaletteFromImageWindowController>(
+            NewPaletteFromImageWindowController::Surroundings{
+                look(),
+                *m_platform.defaults,
+                paletteStore(),
+                *m_platform.filePanels,
+                {*m_platform.scheduler, *m_platform.backgroundQueue, *m_platform.pasteboard},
+                [this](const SRGBColor& color) { copyColor(color); }});
+    return *m_newPaletteFromImageController;
+}
+
+void AppDelegate::openNewPaletteFromImage(std::optional<LoadedImage> image,
+                                          std::optional<QString> name) {
     openPalettes();
+    newPaletteFromImageController().present(&palettesController().ensureWindow(), std::move(image),
+                                            std::move(name));
 }
 
 void AppDelegate::openNewPaletteFromFile() {
@@ -90,12 +108,14 @@ void AppDelegate::createPaletteFromImage() {
     openNewPaletteFromImage();
 }
 
-void AppDelegate::createPaletteFromImageFile(const QString&) {
-    openNewPaletteFromImage();
+void AppDelegate::createPaletteFromImageFile(const QString& path) {
+    if (auto image = ImageLoader::loadFile(path))
+        openNewPaletteFromImage(std::move(image), nameWithoutExtension(path));
 }
 
-void AppDelegate::createPaletteFromImageData(const QByteArray&, const QString&) {
-    openNewPaletteFromImage();
+void AppDelegate::createPaletteFromImageData(const QByteArray& data, const QString& name) {
+    if (auto image = ImageLoader::loadData(data))
+        openNewPaletteFromImage(std::move(image), name);
 }
 
 void AppDelegate::createPaletteFromFile() {

@@ -1,0 +1,46 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "imagepalette/PreviewSwatch.h"
+
+#include "widgets/Metrics.h"
+#include "widgets/Painting.h"
+
+#include <QEvent>
+
+namespace dropshade {
+
+PreviewSwatch::PreviewSwatch(const Look& look, const NameOf& nameOf, QWidget* parent)
+    : Button(look, parent), m_nameOf(nameOf) {
+    setCornerRadius(metrics::radiusCell);
+    setFocusPolicy(Qt::NoFocus);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void PreviewSwatch::setColor(const QuantizedColor& color) {
+    if (color == m_color && !accessibleName().isEmpty())
+        return;
+    m_color = color;
+    setAccessibleName(m_nameOf(color));
+    setToolTip(QString());
+    update();
+}
+
+bool PreviewSwatch::event(QEvent* event) {
+    // The format may have changed since the colour came.
+    if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
+        setToolTip(m_nameOf(m_color));
+    return Button::event(event);
+}
+
+void PreviewSwatch::paint(QPainter& painter) {
+    // The ring lies outside, on the strip; each step of its appearance passes here.
+    parentWidget()->update();
+    QRectF area = rect();
+    if (isPressed()) {
+        const double inset = area.height() * (1.0 - metrics::swatchPressedScale) / 2.0;
+        area.adjust(inset, inset, -inset, -inset);
+    }
+    drawColor(painter, area, metrics::radiusCell, QColor(m_color.r, m_color.g, m_color.b), theme());
+}
+
+} // namespace dropshade
