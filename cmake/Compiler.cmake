@@ -11,6 +11,12 @@ if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
 
+# Each test is a program, and to link them all takes minutes by the linker that GCC comes with.
+find_program(MOLD_PROGRAM ld.mold)
+if(MOLD_PROGRAM)
+    add_link_options(-fuse-ld=mold)
+endif()
+
 # Colour arithmetic must give the same bits on every machine, with or without fused multiply-add.
 add_compile_options(-ffp-contract=off)
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)

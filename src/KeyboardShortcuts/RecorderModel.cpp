@@ -160,7 +160,7 @@ void RecorderModel::refuse(const QString& title, const QString& text,
     Alert alert{title, text, {{shortcutTexts::ok(), Alert::Role::Cancel}}};
     if (forced)
         alert.buttons.append({shortcutTexts::forceUse(), Alert::Role::Plain});
-    m_with.alerts.show(alert, m_with.window ? m_with.window() : nullptr,
+    m_with.alerts.show(alert,
                        [self = QPointer(this), forced = std::move(forced)](qsizetype button) {
                            if (!self)
                                return;

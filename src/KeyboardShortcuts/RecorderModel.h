@@ -34,8 +34,6 @@ public:
         /// What the program's own menus use.
         std::function<QList<MenuKeys>()> menuKeys = editMenuKeys;
         std::function<void()> beep;
-        /// The window that alerts belong to; none where it gives none.
-        std::function<QWindow*()> window;
     };
 
     enum class Answer { PassOn, Swallow };

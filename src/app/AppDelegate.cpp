@@ -264,7 +264,7 @@ const Look& AppDelegate::look() {
 
 UpdateService& AppDelegate::updateService() {
     if (!m_updateService) {
-        m_updateDialogs = std::make_unique<UpdateDialogs>();
+        m_updateDialogs = std::make_unique<UpdateDialogs>(*m_platform.alerts);
         m_updateService = std::make_unique<UpdateService>(
             UpdateService::Surroundings{*m_platform.defaults, *m_platform.scheduler,
                                         *m_platform.feedFetcher, *m_updateDialogs},

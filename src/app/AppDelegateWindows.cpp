@@ -62,7 +62,7 @@ void AppDelegate::openNewPaletteFromFile() {
         tr("New Palette from File", "Title of the panel that asks for a palette file"),
         {tr("Palettes", "Kind of file in a panel"),
          {QStringLiteral("ase"), QStringLiteral("clr"), QStringLiteral("json")}},
-        nullptr, [this](const std::optional<QString>& path) {
+        [this](const std::optional<QString>& path) {
             if (path)
                 importPalette(*path);
         });

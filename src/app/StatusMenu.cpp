@@ -41,7 +41,12 @@ void StatusMenu::show() {
         return;
     m_menu = buildMenu();
     connect(m_menu.get(), &QMenu::aboutToHide, this, &StatusMenu::menuWillHide);
-    m_menu->popup(origin(m_menu->sizeHint()));
+    const QSize size = m_menu->sizeHint();
+    // Wayland has popups for windows alone, so there the menu is a window of its own; with a fixed
+    // size, desktops that tile their windows leave it as it is.
+    if (size.height() <= QGuiApplication::primaryScreen()->availableGeometry().height())
+        m_menu->setFixedSize(size);
+    m_menu->popup(origin(size));
 }
 
 bool StatusMenu::isOpen() const {

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/UpdateDialogs.h"
 
-#include <QAbstractButton>
 #include <QDesktopServices>
-#include <QPushButton>
+
+#include <array>
+#include <utility>
 
 namespace dropshade {
 
@@ -23,10 +24,6 @@ QString beginningOf(const QString& notes) {
 
 } // namespace
 
-UpdateDialogs::UpdateDialogs() = default;
-
-UpdateDialogs::~UpdateDialogs() = default;
-
 void UpdateDialogs::offer(const UpdateItem& item, const VersionNumber& current,
                           std::function<void(Answer)> answer) {
     QString text = tr("Dropshade %1 is available. You have %2.",
@@ -34,36 +31,20 @@ void UpdateDialogs::offer(const UpdateItem& item, const VersionNumber& current,
                        .arg(item.version.text(), current.text());
     if (!item.notes.isEmpty())
         text += QStringLiteral("\n\n") + beginningOf(item.notes);
-    QMessageBox& dialog =
-        makeDialog(QMessageBox::Information,
-                   tr("A new version of Dropshade is available", "Update available title"), text);
-    const QAbstractButton* open = dialog.addButton(
-        tr("Open Download Page", "Update available button"), QMessageBox::AcceptRole);
-    const QAbstractButton* skip = dialog.addButton(
-        tr("Skip This Version", "Update available button"), QMessageBox::DestructiveRole);
-    QPushButton* later =
-        dialog.addButton(tr("Later", "Update available button"), QMessageBox::RejectRole);
-    dialog.setEscapeButton(later);
-    connect(&dialog, &QDialog::finished, this, [&dialog, open, skip, answer] {
-        const QAbstractButton* clicked = dialog.clickedButton();
-        answer(clicked == open   ? Answer::OpenDownloadPage
-               : clicked == skip ? Answer::SkipVersion
-                                 : Answer::Later);
+    Alert alert{tr("A new version of Dropshade is available", "Update available title"), text};
+    alert.buttons = {{tr("Later", "Update available button"), Alert::Role::Cancel},
+                     {tr("Skip This Version", "Update available button"), Alert::Role::Plain},
+                     {tr("Open Download Page", "Update available button"), Alert::Role::Default}};
+    alert.place = Alert::Place::Alone;
+    m_alerts.show(alert, [answer = std::move(answer)](qsizetype button) {
+        constexpr std::array answers = {Answer::Later, Answer::SkipVersion,
+                                        Answer::OpenDownloadPage};
+        answer(answers.at(static_cast<std::size_t>(button)));
     });
-    dialog.show();
-}
-
-void UpdateDialogs::raiseOffer() {
-    if (!m_dialog)
-        return;
-    m_dialog->show();
-    m_dialog->raise();
-    m_dialog->activateWindow();
 }
 
 void UpdateDialogs::tellUpToDate(const VersionNumber& current) {
-    tell(QMessageBox::Information,
-         tr("You\u2019re up to date", "Update check: no newer version title"),
+    tell(tr("You\u2019re up to date", "Update check: no newer version title"),
          tr("Dropshade %1 is the newest version available.",
             "Update check: no newer version; %1 is the installed one")
              .arg(current.text()));
@@ -93,42 +74,21 @@ void UpdateDialogs::tellFailure(UpdateFailure failure) {
             tr("The answer of the update server could not be understood.", "Update check failed");
         break;
     }
-    tell(QMessageBox::Warning, tr("Could not check for updates", "Update check failed title"),
-         reason);
+    tell(tr("Could not check for updates", "Update check failed title"), reason);
 }
 
 void UpdateDialogs::openPage(const QUrl& page) {
     if (QDesktopServices::openUrl(page))
         return;
-    tell(QMessageBox::Warning, tr("No browser could be opened", "Update download page title"),
+    tell(tr("No browser could be opened", "Update download page title"),
          tr("The new version is at this address:\n%1", "Update download page; %1 is a web address")
              .arg(page.toString(QUrl::FullyEncoded)));
 }
 
-QMessageBox& UpdateDialogs::makeDialog(QMessageBox::Icon icon, const QString& headline,
-                                       const QString& text) {
-    discard();
-    m_dialog =
-        std::make_unique<QMessageBox>(icon, headline, headline + QStringLiteral("\n\n") + text);
-    m_dialog->setTextFormat(Qt::PlainText);
-    m_dialog->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_dialog->setModal(false);
-    connect(m_dialog.get(), &QDialog::finished, this, &UpdateDialogs::discard);
-    return *m_dialog;
-}
-
-void UpdateDialogs::discard() {
-    // Later, for it may be the dialog whose button is being handled.
-    if (m_dialog)
-        m_dialog.release()->deleteLater();
-}
-
-void UpdateDialogs::tell(QMessageBox::Icon icon, const QString& headline, const QString& text) {
-    QMessageBox& dialog = makeDialog(icon, headline, text);
-    dialog.addButton(QMessageBox::Ok);
-    dialog.show();
-    dialog.raise();
-    dialog.activateWindow();
+void UpdateDialogs::tell(const QString& headline, const QString& text) {
+    Alert alert{headline, text};
+    alert.place = Alert::Place::Alone;
+    m_alerts.show(alert, [](qsizetype) {});
 }
 
 } // namespace dropshade

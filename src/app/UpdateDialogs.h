@@ -3,36 +3,31 @@
 #pragma once
 
 #include "app/UpdatePrompt.h"
+#include "platform/Alerts.h"
 
-#include <QMessageBox>
-
-#include <memory>
+#include <QCoreApplication>
 
 namespace dropshade {
 
-/// Shows updates in plain dialogs, one at a time. None of them holds anything else up.
-class UpdateDialogs : public QObject, public UpdatePrompt {
-    Q_OBJECT
+/// Tells of updates in alerts that hold nothing else up.
+class UpdateDialogs : public UpdatePrompt {
+    Q_DECLARE_TR_FUNCTIONS(UpdateDialogs)
 
 public:
-    UpdateDialogs();
-    ~UpdateDialogs() override;
+    /// `alerts` must outlive this object.
+    explicit UpdateDialogs(Alerts& alerts) : m_alerts(alerts) {}
 
     void offer(const UpdateItem& item, const VersionNumber& current,
                std::function<void(Answer)> answer) override;
-    void raiseOffer() override;
+    void raiseOffer() override { m_alerts.raise(); }
     void tellUpToDate(const VersionNumber& current) override;
     void tellFailure(UpdateFailure failure) override;
     void openPage(const QUrl& page) override;
 
 private:
-    [[nodiscard]] QMessageBox& makeDialog(QMessageBox::Icon icon, const QString& headline,
-                                          const QString& text);
-    void tell(QMessageBox::Icon icon, const QString& headline, const QString& text);
+    void tell(const QString& headline, const QString& text);
 
-    void discard();
-
-    std::unique_ptr<QMessageBox> m_dialog;
+    Alerts& m_alerts;
 };
 
 } // namespace dropshade

@@ -58,7 +58,7 @@ void PaletteExporter::exportPalette(const Palette& palette, PaletteExportFormat 
 void PaletteExporter::askWhere(const Request& request) {
     const FileKind kind{menuTitle(request.format), {fileExtension(request.format)}};
     m_panels.save(tr("Export Palette", "Title of the panel that asks where to write a palette"),
-                  suggestedFileName(request.palette.name()), kind, nullptr,
+                  suggestedFileName(request.palette.name()), kind,
                   [this, request](const std::optional<QString>& path) {
                       if (path)
                           writeOrTell(request, *path);

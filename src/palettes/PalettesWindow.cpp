@@ -251,18 +251,14 @@ void PalettesWindow::popUpAddMenu(const QPoint& upperRight) {
 }
 
 void PalettesWindow::ask(const DeleteQuestion& question) {
-    AlertText text;
-    text.headline = question.title;
-    text.text = question.message;
-    //: Button of an alert
-    text.confirm = tr("Delete");
-    //: Button of an alert
-    text.cancel = tr("Cancel");
-    text.isDestructive = true;
+    Alert alert{question.title,
+                question.message,
+                //: Buttons of an alert
+                {{tr("Cancel"), Alert::Role::Cancel}, {tr("Delete"), Alert::Role::Destructive}}};
     if (question.swatch)
-        text.color = screenColor(question.swatch->color());
-    AlertWindow::ask(look(), this, text, [confirmed = question.confirmed](bool isConfirmed) {
-        if (isConfirmed)
+        alert.color = screenColor(question.swatch->color());
+    AlertWindow::ask(look(), this, alert, [confirmed = question.confirmed](qsizetype button) {
+        if (button == 1)
             confirmed();
     });
 }

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QString>
 
 #include <functional>
-
-class QWindow;
+#include <optional>
 
 namespace dropshade {
 
@@ -16,8 +16,13 @@ struct Alert {
     enum class Role {
         Default,     ///< Return answers with it.
         Cancel,      ///< Escape answers with it.
-        Destructive, ///< Something is lost by it.
+        Destructive, ///< Something is lost by it; Return answers with another button.
         Plain
+    };
+
+    enum class Place {
+        OverFrontWindow, ///< Which waits for the answer; where the program shows none, alone.
+        Alone            ///< For what comes unasked: nothing waits for it.
     };
 
     struct Button {
@@ -29,23 +34,27 @@ struct Alert {
     QString text;
     /// In their order of reading; none means one to acknowledge.
     QList<Button> buttons = {};
+    /// Shown beside the words, for what concerns one colour.
+    std::optional<QColor> color = std::nullopt;
+    Place place = Place::OverFrontWindow;
 };
 
 /// Shows alerts. One is shown at once and answers once, later, with the place of the button; a
-/// closed alert answers with the cancelling button, or the last one where there is none. It belongs
-/// to `host` while it is up; without one, to the window in front, and where the program shows no
-/// window it stands alone.
+/// closed alert answers with the cancelling button, or the last one where there is none.
 class Alerts {
 public:
     using Answer = std::function<void(qsizetype button)>;
 
     virtual ~Alerts() = default;
 
-    virtual void show(const Alert& alert, QWindow* host, Answer answer) = 0;
+    virtual void show(const Alert& alert, Answer answer) = 0;
+
+    /// Brings the alerts that still wait before the user once more.
+    virtual void raise() = 0;
 
     /// A warning that there is nothing to decide about.
-    void warn(const QString& title, const QString& text, QWindow* host = nullptr) {
-        show(Alert{title, text}, host, [](qsizetype) {});
+    void warn(const QString& title, const QString& text) {
+        show(Alert{title, text}, [](qsizetype) {});
     }
 };
 

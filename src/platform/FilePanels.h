@@ -8,8 +8,6 @@
 #include <functional>
 #include <optional>
 
-class QWindow;
-
 namespace dropshade {
 
 /// What a panel offers to show, besides all files.
@@ -19,8 +17,8 @@ struct FileKind {
 };
 
 /// Asks the user for one file. A panel is shown at once and answers once, later: with a path, or
-/// with nothing where the user cancels. It belongs to `host` while it is up; without one, to the
-/// window in front, and where the program shows no window it stands alone.
+/// with nothing where the user cancels. It belongs to the window in front while it is up, or
+/// stands alone where the program shows no window.
 class FilePanels {
 public:
     using Answer = std::function<void(const std::optional<QString>& path)>;
@@ -28,12 +26,12 @@ public:
     virtual ~FilePanels() = default;
 
     /// Asks for a file that exists; any extension may be chosen.
-    virtual void open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) = 0;
+    virtual void open(const QString& title, const FileKind& kind, Answer answer) = 0;
 
     /// Asks where to write. `name` is offered with the first extension of `kind`; the user may end
     /// with another one, and has agreed where the file exists already.
     virtual void save(const QString& title, const QString& name, const FileKind& kind,
-                      QWindow* host, Answer answer) = 0;
+                      Answer answer) = 0;
 };
 
 } // namespace dropshade

@@ -28,94 +28,114 @@ constexpr int colorSide = 40;
 
 constexpr auto alertFlags = Qt::Dialog | Qt::WindowStaysOnTopHint;
 
-} // namespace
-
-AlertWindow* AlertWindow::ask(const Look& look, QWidget* host, const AlertText& text,
-                              Answer answer) {
-    auto* alert = new AlertWindow(look, host, text, std::move(answer));
-    alert->place(host);
-    alert->fadeIn(metrics::popoverIn);
-    alert->raise();
-    alert->activateWindow();
-    alert->m_first->setFocus(Qt::PopupFocusReason);
-    return alert;
+bool isDestructive(const QList<Alert::Button>& buttons) {
+    return std::any_of(buttons.begin(), buttons.end(), [](const Alert::Button& button) {
+        return button.role == Alert::Role::Destructive;
+    });
 }
 
-AlertWindow::AlertWindow(const Look& look, QWidget* host, const AlertText& text, Answer answer)
+TextButton::Kind kind(Alert::Role role) {
+    switch (role) {
+    case Alert::Role::Default:
+        return TextButton::Kind::Default;
+    case Alert::Role::Destructive:
+        return TextButton::Kind::Destructive;
+    case Alert::Role::Cancel:
+    case Alert::Role::Plain:
+        break;
+    }
+    return TextButton::Kind::Plain;
+}
+
+} // namespace
+
+AlertWindow* AlertWindow::ask(const Look& look, QWidget* host, const Alert& alert,
+                              Alerts::Answer answer) {
+    auto* window = new AlertWindow(look, host, alert, std::move(answer));
+    window->place(host);
+    window->fadeIn(metrics::popoverIn);
+    window->raise();
+    window->activateWindow();
+    window->m_first->setFocus(Qt::PopupFocusReason);
+    return window;
+}
+
+AlertWindow::AlertWindow(const Look& look, QWidget* host, const Alert& alert, Alerts::Answer answer)
     : Surface(look, host ? host->window() : nullptr, alertFlags), m_answer(std::move(answer)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(host ? Qt::WindowModal : Qt::NonModal);
-    setWindowTitle(text.headline);
-    setAccessibleName(text.headline);
-    setAccessibleDescription(text.text);
-    build(text);
+    setWindowTitle(alert.title);
+    setAccessibleName(alert.title);
+    setAccessibleDescription(alert.text);
+    build(alert);
 }
 
 AlertWindow::~AlertWindow() {
     // With its host; whoever asked still gets an answer.
-    finish(false);
+    finish(m_cancelling);
 }
 
-void AlertWindow::build(const AlertText& text) {
+void AlertWindow::build(const Alert& alert) {
     content()->setFixedWidth(metrics::alertWidth);
     auto* column = new QVBoxLayout(content());
     column->setContentsMargins(padding, padding, padding, padding);
     column->setSpacing(metrics::space16);
     auto* words = new QVBoxLayout;
     words->setSpacing(metrics::space4);
-    auto* headline = new Label(look(), TextStyle::Heading, Label::Tone::Primary, text.headline);
-    auto* body = new Label(look(), TextStyle::Body, Label::Tone::Secondary, text.text);
+    auto* headline = new Label(look(), TextStyle::Heading, Label::Tone::Primary, alert.title);
+    auto* body = new Label(look(), TextStyle::Body, Label::Tone::Secondary, alert.text);
     for (Label* label : {headline, body}) {
         label->setWordWrap(true);
         words->addWidget(label);
     }
-    body->setVisible(!text.text.isEmpty());
+    body->setVisible(!alert.text.isEmpty());
     auto* top = new QHBoxLayout;
     top->setSpacing(metrics::space16);
-    top->addWidget(makeSign(text), 0, Qt::AlignTop);
+    top->addWidget(makeSign(alert), 0, Qt::AlignTop);
     top->addLayout(words, 1);
     column->addLayout(top);
-    column->addWidget(makeButtons(text));
+    const Alert::Button acknowledge{tr("OK", "Button that acknowledges an alert"),
+                                    Alert::Role::Default};
+    column->addWidget(makeButtons(alert.buttons.isEmpty() ? QList{acknowledge} : alert.buttons));
 }
 
-QWidget* AlertWindow::makeSign(const AlertText& text) {
-    if (text.color) {
+QWidget* AlertWindow::makeSign(const Alert& alert) {
+    if (alert.color) {
         auto* well = new ColorWell(look(), QString(), colorSide);
-        well->setColor(text.color);
+        well->setColor(alert.color);
         well->setFocusPolicy(Qt::NoFocus);
         well->setAttribute(Qt::WA_TransparentForMouseEvents);
         return well;
     }
     auto* sign = new QLabel;
-    const QColor ink =
-        text.isDestructive ? look().theme().dangerBase : look().theme().textSecondary;
-    sign->setPixmap(iconPixmap(text.isDestructive ? Icon::SizeWarning : Icon::Info, ink, signSide,
-                               devicePixelRatioF()));
+    const bool warns = isDestructive(alert.buttons);
+    const QColor ink = warns ? look().theme().dangerBase : look().theme().textSecondary;
+    sign->setPixmap(
+        iconPixmap(warns ? Icon::SizeWarning : Icon::Info, ink, signSide, devicePixelRatioF()));
     return sign;
 }
 
-QWidget* AlertWindow::makeButtons(const AlertText& text) {
+QWidget* AlertWindow::makeButtons(const QList<Alert::Button>& buttons) {
     auto* bar = new QWidget;
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(metrics::space8);
     row->addStretch(1);
-    const auto add = [&](TextButton::Kind kind, const QString& title, bool confirms) {
-        auto* button = new TextButton(look(), kind, title);
-        connect(button, &QAbstractButton::clicked, this, [this, confirms] {
-            finish(confirms);
+    const Alert::Role first = isDestructive(buttons) ? Alert::Role::Cancel : Alert::Role::Default;
+    m_cancelling = buttons.size() - 1;
+    for (qsizetype index = 0; index < buttons.size(); ++index) {
+        const Alert::Button& button = buttons.at(index);
+        auto* widget = new TextButton(look(), kind(button.role), button.title);
+        connect(widget, &QAbstractButton::clicked, this, [this, index] {
+            finish(index);
             close();
         });
-        row->addWidget(button);
-        return button;
-    };
-    if (!text.cancel.isEmpty())
-        m_first = add(TextButton::Kind::Plain, text.cancel, false);
-    QWidget* confirm =
-        add(text.isDestructive ? TextButton::Kind::Destructive : TextButton::Kind::Default,
-            text.confirm, true);
-    if (!m_first || !text.isDestructive)
-        m_first = confirm;
+        row->addWidget(widget);
+        if (button.role == Alert::Role::Cancel)
+            m_cancelling = index;
+        if (button.role == first || !m_first)
+            m_first = widget;
+    }
     return bar;
 }
 
@@ -147,13 +167,13 @@ void AlertWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void AlertWindow::closeEvent(QCloseEvent* event) {
-    finish(false);
+    finish(m_cancelling);
     event->accept();
 }
 
-void AlertWindow::finish(bool confirmed) {
-    if (const Answer answer = std::exchange(m_answer, nullptr))
-        answer(confirmed);
+void AlertWindow::finish(qsizetype button) {
+    if (const Alerts::Answer answer = std::exchange(m_answer, nullptr))
+        answer(button);
 }
 
 } // namespace dropshade

@@ -2,26 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "platform/Alerts.h"
 #include "widgets/Surface.h"
 
-#include <QColor>
-
-#include <functional>
-#include <optional>
+class QAbstractButton;
 
 namespace dropshade {
-
-/// What an alert says. Without `cancel` it has one button alone.
-struct AlertText {
-    QString headline;
-    QString text;
-    QString confirm;
-    QString cancel;
-    /// Draws the confirming button in red and gives the keyboard to the other.
-    bool isDestructive = false;
-    /// Shown in place of the sign, for what concerns one colour.
-    std::optional<QColor> color;
-};
 
 /// A question over its host window, or in the middle of the screen where it has none. The host
 /// waits. Enter presses the button that has the keyboard, Escape cancels. It deletes itself after
@@ -30,9 +16,8 @@ class AlertWindow : public Surface {
     Q_OBJECT
 
 public:
-    using Answer = std::function<void(bool confirmed)>;
-
-    static AlertWindow* ask(const Look& look, QWidget* host, const AlertText& text, Answer answer);
+    static AlertWindow* ask(const Look& look, QWidget* host, const Alert& alert,
+                            Alerts::Answer answer);
     ~AlertWindow() override;
 
 protected:
@@ -40,15 +25,16 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    AlertWindow(const Look& look, QWidget* host, const AlertText& text, Answer answer);
+    AlertWindow(const Look& look, QWidget* host, const Alert& alert, Alerts::Answer answer);
 
-    void build(const AlertText& text);
-    [[nodiscard]] QWidget* makeSign(const AlertText& text);
-    [[nodiscard]] QWidget* makeButtons(const AlertText& text);
+    void build(const Alert& alert);
+    [[nodiscard]] QWidget* makeSign(const Alert& alert);
+    [[nodiscard]] QWidget* makeButtons(const QList<Alert::Button>& buttons);
     void place(QWidget* host);
-    void finish(bool confirmed);
+    void finish(qsizetype button);
 
-    Answer m_answer;
+    Alerts::Answer m_answer;
+    qsizetype m_cancelling = 0;
     QWidget* m_first = nullptr;
 };
 

@@ -22,6 +22,10 @@ constexpr const char* destructiveProperty = "destructive";
 Menu::Menu(const Look& look, QWidget* parent) : QMenu(parent), m_look(look) {
     setStyle(look.style());
     setFont(textFont(TextStyle::Body));
+    // What a mask without half pixels leaves of the corners has the menu's colour.
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, look.theme().surfaceRaised);
+    setPalette(colors);
     setWindowFlag(Qt::FramelessWindowHint);
     setWindowFlag(Qt::NoDropShadowWindowHint);
     setAttribute(Qt::WA_TranslucentBackground, look.blendsWindows());

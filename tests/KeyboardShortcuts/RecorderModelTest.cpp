@@ -61,8 +61,7 @@ protected:
     FakeAlerts alerts;
     int beeps = 0;
     std::function<void()> beep = [this] { ++beeps; };
-    RecorderModel recorder{{shortcuts, alerts, editMenuKeys, beep, nullptr},
-                           shortcutNames::pickColor};
+    RecorderModel recorder{{shortcuts, alerts, editMenuKeys, beep}, shortcutNames::pickColor};
 };
 
 TEST_F(RecorderModelTest, ShowsAnInvitationAtRestAndAnotherWhileItListens) {
@@ -76,7 +75,7 @@ TEST_F(RecorderModelTest, ShowsAnInvitationAtRestAndAnotherWhileItListens) {
 }
 
 TEST_F(RecorderModelTest, DoesNotListenBeforeItsWindowHadTheKeyboard) {
-    RecorderModel early({shortcuts, alerts, editMenuKeys, {}, {}}, shortcutNames::palettes);
+    RecorderModel early({shortcuts, alerts, editMenuKeys, {}}, shortcutNames::palettes);
     EXPECT_FALSE(early.beginRecording());
     early.windowDidBecomeKey();
     EXPECT_TRUE(early.beginRecording());
@@ -93,7 +92,7 @@ TEST_F(RecorderModelTest, PausesTheShortcutsFromItsBeginningToItsEndOnly) {
 
 TEST_F(RecorderModelTest, ARecorderThatGoesAwayPausesNothingAnyMore) {
     {
-        RecorderModel other({shortcuts, alerts, editMenuKeys, {}, {}}, shortcutNames::palettes);
+        RecorderModel other({shortcuts, alerts, editMenuKeys, {}}, shortcutNames::palettes);
         other.windowDidBecomeKey();
         other.beginRecording();
     }
@@ -275,7 +274,7 @@ TEST_F(RecorderModelTest, WhatTheDesktopCannotDeliverIsRefused) {
         void unregisterHotKey(quint32) override {}
     } silent;
     KeyboardShortcuts none(defaults, silent, layout);
-    RecorderModel mute({none, alerts, editMenuKeys, {}, {}}, shortcutNames::pickColor);
+    RecorderModel mute({none, alerts, editMenuKeys, {}}, shortcutNames::pickColor);
     mute.windowDidBecomeKey();
     mute.beginRecording();
     mute.keyDown({keyP, Qt::ControlModifier});
@@ -327,7 +326,7 @@ TEST_F(RecorderModelTest, FollowsChangesFromElsewhere) {
 
 TEST_F(RecorderModelTest, AnAlertThatOutlivesItsRecorderChangesNothing) {
     {
-        RecorderModel brief({shortcuts, alerts, editMenuKeys, {}, {}}, shortcutNames::pickColor);
+        RecorderModel brief({shortcuts, alerts, editMenuKeys, {}}, shortcutNames::pickColor);
         brief.windowDidBecomeKey();
         keyboard.take({keyP, controlKey});
         brief.beginRecording();

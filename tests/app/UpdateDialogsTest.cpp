@@ -2,10 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/UpdateDialogs.h"
 
-#include <QApplication>
+#include "support/FakeAlerts.h"
+#include "support/QtPrinters.h"
+
 #include <QDesktopServices>
-#include <QPushButton>
-#include <QTest>
+#include <QObject>
 
 #include <gtest/gtest.h>
 
@@ -36,100 +37,73 @@ protected:
     static VersionNumber version(const char* text) {
         return *VersionNumber::parse(QString::fromLatin1(text));
     }
-
-    void offer(const QString& notes) {
+    const Alert& offer(const QString& notes) {
         m_answer.reset();
         m_dialogs.offer(
             {version("2.0"), QUrl(QStringLiteral("https://dropshade.example/2.0")), notes},
             version("1.2"), [this](Answer answer) { m_answer = answer; });
+        return m_alerts.shown().constLast();
     }
 
-    static QMessageBox* shown() {
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            auto* dialog = qobject_cast<QMessageBox*>(widget);
-            if (dialog && dialog->isVisible())
-                return dialog;
-        }
-        return nullptr;
-    }
-
-    static void click(const char* text) {
-        for (QAbstractButton* button : shown()->buttons()) {
-            if (button->text() == QLatin1String(text)) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                return;
-            }
-        }
-        ADD_FAILURE() << "no button " << text;
-    }
-
-    UpdateDialogs m_dialogs;
+    FakeAlerts m_alerts;
+    UpdateDialogs m_dialogs{m_alerts};
     std::optional<Answer> m_answer;
 };
 
-TEST_F(UpdateDialogsTest, ShowTheVersionsAndWhatIsNew) {
-    offer(QStringLiteral("\u2022 A better loupe"));
-    ASSERT_TRUE(shown());
-    EXPECT_TRUE(
-        shown()->text().contains(QStringLiteral("Dropshade 2.0 is available. You have 1.2.")));
-    EXPECT_TRUE(shown()->text().contains(QStringLiteral("\u2022 A better loupe")));
-    EXPECT_FALSE(shown()->isModal());
-}
-
-TEST_F(UpdateDialogsTest, ShowNotesAsPlainText) {
-    offer(QStringLiteral("<img src='https://x.example/t.png'>"));
-    EXPECT_EQ(shown()->textFormat(), Qt::PlainText);
-    EXPECT_TRUE(shown()->informativeText().isEmpty());
+TEST_F(UpdateDialogsTest, ShowTheVersionsAndWhatIsNewAndHoldNothingUp) {
+    const Alert& alert = offer(QStringLiteral("\u2022 A better loupe"));
+    EXPECT_TRUE(alert.text.contains(QStringLiteral("Dropshade 2.0 is available. You have 1.2.")));
+    EXPECT_TRUE(alert.text.contains(QStringLiteral("\u2022 A better loupe")));
+    EXPECT_EQ(alert.place, Alert::Place::Alone);
 }
 
 TEST_F(UpdateDialogsTest, ShowTheBeginningOfLongNotes) {
-    offer(QStringLiteral("line\n").repeated(500));
-    EXPECT_LT(shown()->text().count(u'\n'), 25);
-    EXPECT_TRUE(shown()->text().endsWith(u'\u2026'));
+    const Alert& alert = offer(QStringLiteral("line\n").repeated(500));
+    EXPECT_LT(alert.text.count(u'\n'), 25);
+    EXPECT_TRUE(alert.text.endsWith(u'\u2026'));
 }
 
 TEST_F(UpdateDialogsTest, GiveTheAnswerOfEachButton) {
     const std::pair<const char*, Answer> answers[] = {
-        {"Open Download Page", Answer::OpenDownloadPage},
-        {"Skip This Version", Answer::SkipVersion},
         {"Later", Answer::Later},
+        {"Skip This Version", Answer::SkipVersion},
+        {"Open Download Page", Answer::OpenDownloadPage},
     };
-    for (const auto& [text, answer] : answers) {
-        offer(QString());
-        click(text);
-        EXPECT_EQ(m_answer, answer) << text;
-        EXPECT_FALSE(shown());
+    for (qsizetype button = 0; button < 3; ++button) {
+        const Alert& alert = offer(QString());
+        EXPECT_EQ(alert.buttons.at(button).title, QLatin1String(answers[button].first));
+        m_alerts.answer(button);
+        EXPECT_EQ(m_answer, answers[button].second);
     }
 }
 
-TEST_F(UpdateDialogsTest, TakeEscapeAndClosingForLater) {
+TEST_F(UpdateDialogsTest, TakeEscapeForLater) {
+    EXPECT_EQ(offer(QString()).buttons.at(0).role, Alert::Role::Cancel);
+}
+
+TEST_F(UpdateDialogsTest, BringAnOfferBeforeTheUserOnceMore) {
     offer(QString());
-    QTest::keyClick(shown(), Qt::Key_Escape);
-    EXPECT_EQ(m_answer, Answer::Later);
-    offer(QString());
-    shown()->close();
-    EXPECT_EQ(m_answer, Answer::Later);
+    m_dialogs.raiseOffer();
+    EXPECT_EQ(m_alerts.raiseCount(), 1);
 }
 
 TEST_F(UpdateDialogsTest, SayThatTheProgramIsUpToDate) {
     m_dialogs.tellUpToDate(version("1.2"));
-    ASSERT_TRUE(shown());
-    EXPECT_TRUE(shown()->text().contains(QStringLiteral("Dropshade 1.2 is the newest version")));
+    ASSERT_EQ(m_alerts.shown().size(), 1);
+    EXPECT_EQ(m_alerts.shown().at(0).text,
+              QStringLiteral("Dropshade 1.2 is the newest version available."));
 }
 
 TEST_F(UpdateDialogsTest, HaveWordsForEachFailure) {
-    QStringList texts;
     for (const UpdateFailure failure :
          {UpdateFailure::Unreachable, UpdateFailure::Refused, UpdateFailure::TooLong,
           UpdateFailure::UnsafeRedirect, UpdateFailure::TimedOut, UpdateFailure::Malformed}) {
         m_dialogs.tellFailure(failure);
-        ASSERT_TRUE(shown());
-        EXPECT_TRUE(shown()->text().startsWith(QStringLiteral("Could not check for updates\n\n")));
-        texts.append(shown()->text().section(u'\n', 2));
-        EXPECT_GT(texts.last().size(), 20);
-        click("OK");
-        EXPECT_FALSE(shown());
+        const Alert& alert = m_alerts.shown().constLast();
+        EXPECT_EQ(alert.title, QStringLiteral("Could not check for updates"));
+        EXPECT_GT(alert.text.size(), 20);
     }
+    EXPECT_EQ(m_alerts.shown().size(), 6);
 }
 
 TEST_F(UpdateDialogsTest, OpenThePageInTheBrowser) {
@@ -137,7 +111,7 @@ TEST_F(UpdateDialogsTest, OpenThePageInTheBrowser) {
     const QUrl page(QStringLiteral("https://dropshade.example/2.0"));
     m_dialogs.openPage(page);
     EXPECT_EQ(browser.opened(), QList{page});
-    EXPECT_FALSE(shown());
+    EXPECT_TRUE(m_alerts.shown().isEmpty());
 }
 
 } // namespace

@@ -5,8 +5,8 @@
 
 #include "platform/linux/FolderWorker.h"
 #include "platform/linux/replica/ReplicaRecord.h"
-#include "support/DefaultsFolder.h"
 #include "support/CloudMember.h"
+#include "support/DefaultsFolder.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>

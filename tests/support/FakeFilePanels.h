@@ -18,17 +18,16 @@ public:
         QString title;
         QString name; ///< With its extension; empty for an open panel.
         FileKind kind;
-        QWindow* host;
         Answer answer;
     };
 
-    void open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) override {
-        m_panels.append({false, title, QString(), kind, host, std::move(answer)});
+    void open(const QString& title, const FileKind& kind, Answer answer) override {
+        m_panels.append({false, title, QString(), kind, std::move(answer)});
     }
-    void save(const QString& title, const QString& name, const FileKind& kind, QWindow* host,
+    void save(const QString& title, const QString& name, const FileKind& kind,
               Answer answer) override {
         m_panels.append({true, title, name + QLatin1Char('.') + kind.extensions.constFirst(), kind,
-                         host, std::move(answer)});
+                         std::move(answer)});
     }
 
     /// Those that wait.

@@ -23,14 +23,14 @@ protected:
     void SetUp() override { m_appearance.setReducedMotion(true); }
 
     AlertWindow* ask(bool isDestructive, QWidget* host = nullptr) {
-        const AlertText text{QStringLiteral("Delete?"),
+        const Alert::Role confirming =
+            isDestructive ? Alert::Role::Destructive : Alert::Role::Default;
+        const Alert question{QStringLiteral("Delete?"),
                              QStringLiteral("It goes."),
-                             QStringLiteral("Delete"),
-                             QStringLiteral("Cancel"),
-                             isDestructive,
-                             std::nullopt};
-        AlertWindow* alert =
-            AlertWindow::ask(m_look, host, text, [this](bool yes) { m_answers.append(yes); });
+                             {{QStringLiteral("Cancel"), Alert::Role::Cancel},
+                              {QStringLiteral("Delete"), confirming}}};
+        AlertWindow* alert = AlertWindow::ask(
+            m_look, host, question, [this](qsizetype button) { m_answers.append(button == 1); });
         alert->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(alert));
         return alert;
@@ -50,6 +50,15 @@ TEST_F(AlertWindowTest, AnswersOnceWithTheButtonThatWasClicked) {
     QTest::mouseClick(button(alert, QStringLiteral("Delete")), Qt::LeftButton);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(m_answers, QList<bool>{true});
+}
+
+TEST_F(AlertWindowTest, WithoutButtonsItHasOneToAcknowledge) {
+    QList<qsizetype> answers;
+    AlertWindow* alert =
+        AlertWindow::ask(m_look, nullptr, {QStringLiteral("Note"), QStringLiteral("It went.")},
+                         [&answers](qsizetype answer) { answers.append(answer); });
+    QTest::mouseClick(button(alert, QStringLiteral("OK")), Qt::LeftButton);
+    EXPECT_EQ(answers, QList<qsizetype>{0});
 }
 
 TEST_F(AlertWindowTest, EscapeCancels) {

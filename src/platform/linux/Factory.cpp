@@ -11,7 +11,6 @@
 #include "platform/linux/PoolBackgroundQueue.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalScreenSampler.h"
-#include "platform/linux/QtAlerts.h"
 #include "platform/linux/QtFilePanels.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
@@ -80,7 +79,6 @@ Platform makePlatform() {
     platform.cloudStore = makeCloudStore(*platform.defaults, *platform.scheduler);
     platform.cloudAccounts = makeCloudAccounts();
     platform.filePanels = std::make_unique<QtFilePanels>();
-    platform.alerts = std::make_unique<QtAlerts>();
     platform.loginItem = std::make_unique<AutostartLoginItem>(AutostartLoginItem::ofSession());
     return platform;
 }

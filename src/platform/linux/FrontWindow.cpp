@@ -28,9 +28,8 @@ QWindow* frontWindow() {
 
 } // namespace
 
-void showOver(QWidget& dialog, QWindow* host) {
-    if (!host)
-        host = frontWindow();
+void showOverFront(QWidget& dialog) {
+    QWindow* const host = frontWindow();
     dialog.setWindowModality(host ? Qt::WindowModal : Qt::ApplicationModal);
     static_cast<void>(dialog.winId()); // It has a window from here on.
     dialog.windowHandle()->setTransientParent(host);

@@ -43,21 +43,21 @@ QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind
     return *dialog;
 }
 
-void QtFilePanels::open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) {
+void QtFilePanels::open(const QString& title, const FileKind& kind, Answer answer) {
     QFileDialog& dialog = makeDialog(title, kind, std::move(answer));
     dialog.setFileMode(QFileDialog::ExistingFile);
-    showOver(dialog, host);
+    showOverFront(dialog);
 }
 
 void QtFilePanels::save(const QString& title, const QString& name, const FileKind& kind,
-                        QWindow* host, Answer answer) {
+                        Answer answer) {
     QFileDialog& dialog = makeDialog(title, kind, std::move(answer));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(kind.extensions.constFirst());
     // With its extension: Qt takes what follows a dot in the name for one.
     dialog.selectFile(name + QLatin1Char('.') + kind.extensions.constFirst());
-    showOver(dialog, host);
+    showOverFront(dialog);
 }
 
 } // namespace dropshade

@@ -13,8 +13,8 @@ namespace dropshade {
 /// The desktop's own file dialogs where it has some, Qt's elsewhere.
 class QtFilePanels : public FilePanels {
 public:
-    void open(const QString& title, const FileKind& kind, QWindow* host, Answer answer) override;
-    void save(const QString& title, const QString& name, const FileKind& kind, QWindow* host,
+    void open(const QString& title, const FileKind& kind, Answer answer) override;
+    void save(const QString& title, const QString& name, const FileKind& kind,
               Answer answer) override;
 
 private:
