@@ -82,7 +82,7 @@ NewPaletteFromImageView::NewPaletteFromImageView(const Look& look, const Surroun
 NewPaletteFromImageView::~NewPaletteFromImageView() = default;
 
 Label* NewPaletteFromImageView::makeLabel(const QString& words) {
-    auto* label = new Label(look(), TextStyle::FieldLabel, Label::Tone::Secondary, words, this);
+    auto* label = new Label(look(), TextStyle::Body, Label::Tone::Secondary, words, this);
     label->setMinimumSize(labelColumn, metrics::control);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return label;
@@ -281,7 +281,7 @@ void NewPaletteFromImageView::browse() {
         //: Title of the panel that asks for an image
         tr("Choose an Image"),
         //: Kind of file in a panel
-        {tr("Images"), ImageLoader::fileExtensions()}, windowHandle(),
+        {tr("Images"), ImageLoader::fileExtensions()},
         [this, life = QPointer<QObject>(&m_life)](const std::optional<QString>& path) {
             if (life && path)
                 m_model.loadFile(*path);

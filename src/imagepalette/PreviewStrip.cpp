@@ -21,6 +21,7 @@ constexpr int twoRows = 60;
 constexpr int firstCountOfTwoRows = 13;
 constexpr int gap = 4;
 constexpr double ringGap = 1.0;
+constexpr int usualCount = 24;
 
 } // namespace
 
@@ -28,19 +29,25 @@ PreviewStrip::PreviewStrip(const Look& look, std::function<QString(const Quantiz
                            QWidget* parent)
     : QWidget(parent), m_look(look), m_nameOf(std::move(nameOf)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // At once, so that Tab comes to them where they stand and not after all that was made before.
+    while (m_swatches.size() < usualCount)
+        addSwatch();
     setColors({});
     connect(&look, &Look::didChange, this, qOverload<>(&QWidget::update));
+}
+
+void PreviewStrip::addSwatch() {
+    auto* swatch = new PreviewSwatch(m_look, m_nameOf, this);
+    connect(swatch, &QAbstractButton::clicked, this,
+            [this, swatch] { Q_EMIT picked(swatch->color()); });
+    m_swatches.append(swatch);
 }
 
 void PreviewStrip::setColors(const std::vector<QuantizedColor>& colors) {
     const int before = heightOfRows();
     m_count = static_cast<int>(colors.size());
-    while (m_swatches.size() < m_count) {
-        auto* swatch = new PreviewSwatch(m_look, m_nameOf, this);
-        connect(swatch, &QAbstractButton::clicked, this,
-                [this, swatch] { Q_EMIT picked(swatch->color()); });
-        m_swatches.append(swatch);
-    }
+    while (m_swatches.size() < m_count)
+        addSwatch();
     bool isReachable = false;
     for (int index = 0; index < m_swatches.size(); ++index) {
         PreviewSwatch* swatch = m_swatches[index];

@@ -41,12 +41,13 @@ protected:
 private:
     [[nodiscard]] int columns() const;
     [[nodiscard]] int heightOfRows() const;
+    void addSwatch();
     void arrange();
     void focusSwatch(int index);
 
     const Look& m_look;
     std::function<QString(const QuantizedColor&)> m_nameOf;
-    /// As many as were ever shown; the first `m_count` are.
+    /// Some more than are shown: the first `m_count` are.
     QList<PreviewSwatch*> m_swatches;
     int m_count = 0;
 };

@@ -5,7 +5,7 @@
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 
 namespace dropshade {
 
@@ -30,6 +30,20 @@ bool PreviewSwatch::event(QEvent* event) {
     if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
         setToolTip(m_nameOf(m_color));
     return Button::event(event);
+}
+
+void PreviewSwatch::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        // A button would go to the next control; the strip knows the next colour.
+        event->ignore();
+        break;
+    default:
+        Button::keyPressEvent(event);
+    }
 }
 
 void PreviewSwatch::paint(QPainter& painter) {

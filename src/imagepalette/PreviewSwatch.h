@@ -25,6 +25,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paint(QPainter& painter) override;
 
 private:
