@@ -8,7 +8,7 @@ set(companion_folder "${CMAKE_INSTALL_BINDIR}/../lib/dropshade")
 
 install(TARGETS dropshade RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS dropshade-sound RUNTIME DESTINATION "${companion_folder}")
-install(TARGETS dropshade-network LIBRARY DESTINATION "${companion_folder}")
+install(TARGETS dropshade-etcd dropshade-network LIBRARY DESTINATION "${companion_folder}")
 
 install(FILES "${PROJECT_SOURCE_DIR}/resources/desktop/${application_id}.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "platform/linux/Factory.h"
 #include "platform/linux/QuitSignals.h"
+#include "widgets/QtFilePanels.h"
 #include "widgets/ThemedAlerts.h"
 
 #include <QApplication>
@@ -22,6 +23,7 @@ int main(int argc, char** argv) {
     Platform platform = makePlatform();
     if (platform.instance->claim() == ApplicationInstance::Role::HandedOver)
         return 0;
+    platform.filePanels = std::make_unique<QtFilePanels>(*platform.appearance);
     platform.alerts = std::make_unique<ThemedAlerts>(*platform.appearance);
     AppDelegate delegate(std::move(platform));
     QObject::connect(&delegate, &AppDelegate::quitRequested, &application, &QApplication::quit);

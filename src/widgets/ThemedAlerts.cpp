@@ -2,29 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/ThemedAlerts.h"
 
-#include <QApplication>
+#include "widgets/FrontWindow.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace dropshade {
-namespace {
-
-bool canHost(const QWidget* widget) {
-    return widget->isVisible() && widget->windowType() != Qt::Popup &&
-           widget->windowType() != Qt::ToolTip;
-}
-
-QWidget* frontWindow() {
-    if (QWidget* active = QApplication::activeWindow(); active && canHost(active))
-        return active;
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    const auto found = std::find_if(windows.begin(), windows.end(), canHost);
-    return found == windows.end() ? nullptr : *found;
-}
-
-} // namespace
-
 ThemedAlerts::~ThemedAlerts() {
     for (const QPointer<AlertWindow>& window : m_waiting)
         delete window;

@@ -30,6 +30,7 @@ class Install(unittest.TestCase):
 
     def test_the_program_its_parts_and_its_papers_are_there(self):
         for name in ("bin/dropshade", "lib/dropshade/dropshade-sound",
+                     "lib/dropshade/dropshade-etcd.so",
                      "lib/dropshade/dropshade-network.so", ENTRY,
                      "share/icons/hicolor/scalable/apps/org.dropshade.Dropshade.svg",
                      "share/dbus-1/services/org.dropshade.Dropshade.service",

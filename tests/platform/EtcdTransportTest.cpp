@@ -8,6 +8,7 @@
 #include "platform/linux/etcd/EtcdAccounts.h"
 #include "support/CloudMember.h"
 #include "support/EtcdServer.h"
+#include "support/LongestTurn.h"
 #include "support/QtPrinters.h"
 
 #include <QSignalSpy>
@@ -238,6 +239,23 @@ TEST_F(EtcdTransportTest, ForeignBytesUnderItsKeysAreSkippedAndOverwritten) {
     EXPECT_TRUE(first->sees(b, std::nullopt));
     first->write(b, one);
     EXPECT_TRUE(second->sees(b, one));
+}
+
+TEST_F(EtcdTransportTest, ALibraryThatComesAndGoesNeverHoldsUpTheMainThread) {
+    launch();
+    const auto first = member(1);
+    for (int number = 0; number < 300; ++number)
+        first->store().setValue(QString::number(number), QByteArray(8000, char('a' + number % 26)));
+    const LongestTurn up;
+    first->store().synchronize();
+    EXPECT_TRUE(first->hasSentAll());
+    // Processor time, since other programs may hold up any thread.
+    EXPECT_LE(up.milliseconds(), 16.0);
+    const LongestTurn down;
+    const auto second = member(2);
+    EXPECT_TRUE(second->sees(QStringLiteral("299"), first->store().value(QStringLiteral("299"))));
+    EXPECT_LE(down.milliseconds(), 16.0);
+    EXPECT_GT(down.turnCount(), 20);
 }
 
 } // namespace

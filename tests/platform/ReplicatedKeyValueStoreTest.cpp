@@ -277,6 +277,15 @@ TEST_F(ReplicatedKeyValueStoreTest, TheRuleIsAskedForRemovalsLast) {
     EXPECT_EQ(here.store->value(a), std::nullopt);
 }
 
+TEST_F(ReplicatedKeyValueStoreTest, AKeyThatWasRemovedAndWrittenAgainMeanwhileIsThere) {
+    server.put(a, one);
+    here.pump();
+    server.put(a, std::nullopt);
+    server.put(a, two);
+    here.pump();
+    EXPECT_EQ(here.store->value(a), two);
+}
+
 TEST_F(ReplicatedKeyValueStoreTest, AWipedServerGetsEverythingAgain) {
     here.write(a, one);
     here.pump();

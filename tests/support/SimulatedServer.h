@@ -133,6 +133,10 @@ private:
         const qint64 seen = m_cursor.mid(colon + 1).toLongLong();
         if (seen == m_server.revision)
             return false;
+        if (seen < m_server.compactedTo) {
+            list();
+            return true;
+        }
         QList<RemoteEntry> news;
         for (const auto& event : m_server.events) {
             if (event.revision > seen)

@@ -11,7 +11,6 @@
 #include "platform/linux/PoolBackgroundQueue.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalScreenSampler.h"
-#include "platform/linux/QtFilePanels.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
 #include "platform/linux/SqliteDefaults.h"
@@ -78,7 +77,6 @@ Platform makePlatform() {
         [] { return companionFile(QStringLiteral("dropshade-network.so")); });
     platform.cloudStore = makeCloudStore(*platform.defaults, *platform.scheduler);
     platform.cloudAccounts = makeCloudAccounts();
-    platform.filePanels = std::make_unique<QtFilePanels>();
     platform.loginItem = std::make_unique<AutostartLoginItem>(AutostartLoginItem::ofSession());
     return platform;
 }

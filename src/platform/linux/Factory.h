@@ -6,8 +6,8 @@
 
 namespace dropshade {
 
-/// The adapters that fit the desktop the program runs on, all but the alerts, which look like the
-/// program's windows. Needs the `QApplication`.
+/// The adapters that fit the desktop the program runs on, all but the alerts and panels, which
+/// look like the program's windows. Needs the `QApplication`.
 [[nodiscard]] Platform makePlatform();
 
 } // namespace dropshade

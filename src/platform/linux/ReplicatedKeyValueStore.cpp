@@ -290,14 +290,15 @@ void ReplicatedKeyValueStore::distrustRemote() {
 }
 
 void ReplicatedKeyValueStore::take(const QList<RemoteEntry>& entries) {
+    // Of what happened to a key the end counts.
+    std::map<QString, RemoteEntry> latest;
+    for (const RemoteEntry& entry : entries)
+        latest.insert_or_assign(entry.key, entry);
     // Whether a removal holds may depend on what else has come.
-    const auto isRemoval = [this](const RemoteEntry& entry) {
-        const Row ours = row(entry.key);
-        return !entry.value || (ours && !ours->value);
-    };
     QList<RemoteEntry> removals;
-    for (const RemoteEntry& entry : entries) {
-        if (isRemoval(entry))
+    for (const auto& [key, entry] : latest) {
+        const Row ours = row(key);
+        if (!entry.value || (ours && !ours->value))
             removals.append(entry);
         else
             take(entry);

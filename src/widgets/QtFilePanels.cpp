@@ -1,12 +1,15 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
-#include "platform/linux/QtFilePanels.h"
+#include "widgets/QtFilePanels.h"
 
-#include "platform/linux/FrontWindow.h"
+#include "widgets/FrontWindow.h"
+#include "widgets/Theme.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QPalette>
 #include <QStandardPaths>
+#include <QWindow>
 
 #include <utility>
 
@@ -23,6 +26,32 @@ QStringList filters(const FileKind& kind) {
             QCoreApplication::translate("QtFilePanels", "All Files (*)", "Filter of a file panel")};
 }
 
+QPalette paletteOf(const Theme& theme) {
+    QPalette palette(theme.textPrimary, theme.surfaceButton, theme.lineHairline,
+                     theme.surfaceSunken, theme.lineControl, theme.textPrimary, theme.textPrimary,
+                     theme.surfaceField, theme.surfaceWindow);
+    palette.setColor(QPalette::AlternateBase, theme.surfaceWindow);
+    palette.setColor(QPalette::PlaceholderText, theme.textTertiary);
+    palette.setColor(QPalette::Highlight, theme.accentBase);
+    palette.setColor(QPalette::HighlightedText, theme.textOnAccent);
+    palette.setColor(QPalette::ToolTipBase, theme.surfacePlate);
+    palette.setColor(QPalette::ToolTipText, theme.textOnPlate);
+    for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
+        palette.setColor(QPalette::Disabled, role, theme.textTertiary);
+    return palette;
+}
+
+/// Over the window in front, which waits; where there is none, alone and in front of all.
+void showOverFrontWindow(QFileDialog& dialog) {
+    QWidget* const host = frontWindow();
+    dialog.setWindowModality(host ? Qt::WindowModal : Qt::ApplicationModal);
+    static_cast<void>(dialog.winId()); // It has a window from here on.
+    dialog.windowHandle()->setTransientParent(host ? host->windowHandle() : nullptr);
+    dialog.show();
+    dialog.raise();
+    dialog.activateWindow();
+}
+
 } // namespace
 
 QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind, Answer answer) {
@@ -30,6 +59,8 @@ QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind
         m_folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     auto* dialog = new QFileDialog(nullptr, title, m_folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setPalette(
+        paletteOf(Theme::of(m_appearance.isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light)));
     dialog->setNameFilters(filters(kind));
     QObject::connect(&m_life, &QObject::destroyed, dialog, [dialog] { delete dialog; });
     QObject::connect(dialog, &QDialog::finished, &m_life,
@@ -46,7 +77,7 @@ QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind
 void QtFilePanels::open(const QString& title, const FileKind& kind, Answer answer) {
     QFileDialog& dialog = makeDialog(title, kind, std::move(answer));
     dialog.setFileMode(QFileDialog::ExistingFile);
-    showOverFront(dialog);
+    showOverFrontWindow(dialog);
 }
 
 void QtFilePanels::save(const QString& title, const QString& name, const FileKind& kind,
@@ -57,7 +88,7 @@ void QtFilePanels::save(const QString& title, const QString& name, const FileKin
     dialog.setDefaultSuffix(kind.extensions.constFirst());
     // With its extension: Qt takes what follows a dot in the name for one.
     dialog.selectFile(name + QLatin1Char('.') + kind.extensions.constFirst());
-    showOverFront(dialog);
+    showOverFrontWindow(dialog);
 }
 
 } // namespace dropshade

@@ -1,7 +1,8 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
-#include "platform/linux/QtFilePanels.h"
+#include "widgets/QtFilePanels.h"
 
+#include "support/FakeAppearance.h"
 #include "support/QtPrinters.h"
 
 #include <QApplication>
@@ -46,7 +47,8 @@ protected:
 
     QTemporaryDir m_folder;
     FileKind m_kind{QStringLiteral("Palettes"), {QStringLiteral("ase"), QStringLiteral("json")}};
-    QtFilePanels m_panels;
+    FakeAppearance m_appearance;
+    QtFilePanels m_panels{m_appearance};
     QList<std::optional<QString>> m_answers;
 };
 
@@ -98,9 +100,17 @@ TEST_F(QtFilePanelsTest, APanelHangsOnTheWindowInFrontOrStandsAlone) {
     finish(*panel(), QDialog::Rejected);
 }
 
+TEST_F(QtFilePanelsTest, TheIconInTheTrayIsNoWindowToHangOn) {
+    QWidget icon(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint);
+    icon.show();
+    m_panels.open(QStringLiteral("Open"), m_kind, answer());
+    EXPECT_EQ(panel()->windowHandle()->transientParent(), nullptr);
+    finish(*panel(), QDialog::Rejected);
+}
+
 TEST_F(QtFilePanelsTest, APanelThatIsStillUpEndsWithTheProgramAndAnswersNothing) {
     {
-        QtFilePanels panels;
+        QtFilePanels panels(m_appearance);
         panels.open(QStringLiteral("Open"), m_kind, answer());
     }
     EXPECT_EQ(panel(), nullptr);

@@ -1,0 +1,197 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+
+// The engine over a replica on the disk, with libraries of palettes of 286 labelled swatches.
+
+#include "app/SettingsReaders.h"
+#include "palettes/PaletteJson.h"
+#include "platform/linux/ReplicatedKeyValueStore.h"
+#include "platform/linux/SqliteDefaults.h"
+#include "sync/CloudSyncEngine.h"
+#include "sync/SyncValueCodec.h"
+
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <malloc.h>
+
+namespace dropshade {
+namespace {
+
+constexpr int scaleCount = 26;
+constexpr int shadeCount = 11;
+constexpr int swatchCount = scaleCount * shadeCount;
+
+Palette paletteOf(int number) {
+    QList<PaletteScale> scales;
+    for (int scale = 0; scale < scaleCount; ++scale) {
+        QList<PaletteSwatch> swatches;
+        for (int shade = 0; shade < shadeCount; ++shade) {
+            const int digits = ((number * scaleCount + scale) * 7919 + shade * 1299709) & 0xFFFFFF;
+            swatches.append(
+                PaletteSwatch(QStringLiteral("#%1").arg(digits, 6, 16, QLatin1Char('0')),
+                              QStringLiteral("violet-%1").arg(shade * 100)));
+        }
+        scales.append(PaletteScale(QStringLiteral("Scale %1").arg(scale), swatches));
+    }
+    return Palette(QStringLiteral("Palette %1").arg(number), scales,
+                   ReferenceTime{700000000.123456 + number});
+}
+
+/// Delays that never end: what is measured here is asked for by hand.
+class StandingClock : public Scheduler {
+public:
+    std::unique_ptr<ScheduledWork> after(std::chrono::milliseconds,
+                                         std::function<void()>) override {
+        return std::make_unique<ScheduledWork>();
+    }
+    ReferenceTime now() const override { return ReferenceTime{800000000.0}; }
+};
+
+/// A transport that brings what the benchmark gives it, and takes nothing.
+class HandTransport : public ReplicaTransport {
+public:
+    void start(const QByteArray&) override {}
+    void send(const QList<OutgoingEntry>&) override {}
+    bool supersedes(const QByteArray& version, const QByteArray& known) const override {
+        return version != known;
+    }
+};
+
+/// A machine with an empty library before a cloud of so many palettes.
+struct Machine {
+    /// Without the presets that a new machine begins with.
+    struct EmptyLibrary : SqliteDefaults {
+        explicit EmptyLibrary(const QString& path) : SqliteDefaults(path) {
+            setValue(keys::userPalettes, QByteArray("[]"));
+            setValue(keys::collapsedPaletteIds, QStringList());
+        }
+    };
+
+    explicit Machine(int paletteCount) {
+        engine.start();
+        for (int number = 0; number < paletteCount; ++number) {
+            const Palette palette = paletteOf(number);
+            news.append({cloudKeys::palette(palette.id()),
+                         compressedValue(*encodedPalette(palette)), ReferenceTime{}, "1"});
+        }
+    }
+
+    QTemporaryDir folder;
+    EmptyLibrary defaults{folder.filePath(QStringLiteral("defaults.sqlite"))};
+    StandingClock scheduler;
+    AppSettings settings{defaults, scheduler};
+    PalettePresets presets{scheduler};
+    UserPaletteStore palettes{defaults, scheduler, settings, presets};
+    HandTransport* transport = nullptr;
+    ReplicatedKeyValueStore kvs{
+        defaults,
+        scheduler,
+        {[this](const CloudAccount&) {
+             auto made = std::make_unique<HandTransport>();
+             transport = made.get();
+             return made;
+         },
+         [this](const CloudAccount&) { return folder.filePath(QStringLiteral("r.sqlite")); }}};
+    CloudSyncEngine engine{{kvs, defaults, scheduler, settings, palettes}};
+    QList<RemoteEntry> news;
+};
+
+void perSwatch(benchmark::State& state) {
+    state.counters["per_swatch"] = benchmark::Counter(
+        double(state.range(0) * swatchCount),
+        benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+}
+
+/// The merge of a library that this machine has nothing of, and its save.
+void fullPull(benchmark::State& state) {
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto machine = std::make_unique<Machine>(int(state.range(0)));
+        Q_EMIT machine->transport->received(machine->news);
+        const std::size_t before = mallinfo2().uordblks;
+        state.ResumeTiming();
+        Q_EMIT machine->transport->caughtUp("1");
+        state.PauseTiming();
+        bytes = mallinfo2().uordblks - before;
+        if (machine->palettes.palettes().size() != state.range(0))
+            state.SkipWithError("not all palettes came");
+        machine.reset();
+        state.ResumeTiming();
+    }
+    state.counters["megabytes"] = double(bytes) / 1e6;
+    perSwatch(state);
+}
+BENCHMARK(fullPull)
+    ->Name("sync/full-pull")
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
+
+/// As the first pull of all, but of one palette among those that are known.
+void pullOfOne(benchmark::State& state) {
+    Machine machine(int(state.range(0)));
+    Q_EMIT machine.transport->received(machine.news);
+    Q_EMIT machine.transport->caughtUp("1");
+    int round = 1;
+    for (auto _ : state) {
+        Palette palette = machine.palettes.palettes().first();
+        palette.setLastModified(ReferenceTime{750000000.0 + ++round});
+        Q_EMIT machine.transport->received(
+            {{cloudKeys::palette(palette.id()), compressedValue(*encodedPalette(palette)),
+              ReferenceTime{}, QByteArray::number(round)}});
+        Q_EMIT machine.transport->caughtUp("1");
+    }
+}
+BENCHMARK(pullOfOne)
+    ->Name("sync/pull-of-one-change")
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
+
+void pushOfOne(benchmark::State& state) {
+    Machine machine(int(state.range(0)));
+    Q_EMIT machine.transport->received(machine.news);
+    Q_EMIT machine.transport->caughtUp("1");
+    machine.engine.flushPendingPushes();
+    int round = 1;
+    for (auto _ : state) {
+        state.PauseTiming();
+        QList<Palette> palettes = machine.palettes.palettes();
+        palettes[0].setLastModified(ReferenceTime{750000000.0 + ++round});
+        machine.palettes.setPalettes(palettes);
+        machine.palettes.flushPendingSave();
+        state.ResumeTiming();
+        machine.engine.flushPendingPushes();
+    }
+}
+BENCHMARK(pushOfOne)
+    ->Name("sync/push-of-one-edit")
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
+
+void compress(benchmark::State& state) {
+    const QByteArray json = *encodedPalette(paletteOf(1));
+    std::size_t size = 0;
+    for (auto _ : state)
+        size = std::size_t(compressedValue(json).size());
+    state.counters["json"] = double(json.size());
+    state.counters["value"] = double(size);
+}
+BENCHMARK(compress)->Name("sync/compress")->Unit(benchmark::kMicrosecond);
+
+void decompress(benchmark::State& state) {
+    const QByteArray value = compressedValue(*encodedPalette(paletteOf(1)));
+    for (auto _ : state)
+        benchmark::DoNotOptimize(decompressedValue(value));
+}
+BENCHMARK(decompress)->Name("sync/decompress")->Unit(benchmark::kMicrosecond);
+
+} // namespace
+} // namespace dropshade
