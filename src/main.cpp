@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
+#include "app/Words.h"
 #include "platform/linux/Factory.h"
 #include "platform/linux/QuitSignals.h"
 #include "widgets/QtFilePanels.h"
@@ -14,7 +15,6 @@ int main(int argc, char** argv) {
     QuitSignals quitSignals;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("dropshade"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Dropshade"));
     QApplication::setApplicationVersion(QStringLiteral(DROPSHADE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.dropshade.Dropshade"));
     // The program is its status item: it goes on without a window.
@@ -23,6 +23,9 @@ int main(int argc, char** argv) {
     Platform platform = makePlatform();
     if (platform.instance->claim() == ApplicationInstance::Role::HandedOver)
         return 0;
+    QTranslator words;
+    if (loadWords(words))
+        QApplication::installTranslator(&words);
     platform.filePanels = std::make_unique<QtFilePanels>(*platform.appearance);
     platform.alerts = std::make_unique<ThemedAlerts>(*platform.appearance);
     AppDelegate delegate(std::move(platform));

@@ -3,9 +3,12 @@
 #pragma once
 
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "app/AboutWindowController.h"
 #include "app/AppSettings.h"
 #include "app/ColorCopier.h"
 #include "app/ColorPickerService.h"
+#include "app/ColorWindowSurroundings.h"
+#include "app/SettingsViewController.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
 #include "app/UpdateDialogs.h"
@@ -27,6 +30,9 @@
 #include <optional>
 
 namespace dropshade {
+
+class ColorPickerWindowController;
+class ContrastWindowController;
 
 /// The program's one controller: it owns a service and a window controller of each kind, and
 /// carries the main flow, from a sample on the screen to its text on the clipboard.
@@ -102,6 +108,11 @@ public:
     /// The updater; it and what it needs come into being at the first call.
     UpdateService& updateService();
 
+    // The owners of the windows, made at the first call.
+
+    SettingsViewController& settingsController();
+    AboutWindowController& aboutController();
+
 Q_SIGNALS:
     /// The user asked for the end of the program.
     void quitRequested();
@@ -117,6 +128,7 @@ private:
     void explainMissingStatusArea();
     void loadPalettes();
     void setSyncing(bool enabled);
+    [[nodiscard]] ColorWindowSurroundings colorWindowSurroundings();
     void finishPick(const std::optional<SRGBColor>& color);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
     PalettesWindowController& palettesController();
@@ -145,11 +157,15 @@ private:
     ColorCopier m_copier;
     StatusMenu m_statusMenu;
     PaletteExporter m_paletteExporter;
+    std::unique_ptr<ColorPickerWindowController> m_colorPickerController;
+    std::unique_ptr<ContrastWindowController> m_contrastController;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
     std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<PalettesWindowController> m_palettesController;
     std::unique_ptr<NewPaletteFromImageWindowController> m_newPaletteFromImageController;
     std::unique_ptr<ScheduledWork> m_presetRequest;
+    std::unique_ptr<SettingsViewController> m_settingsController;
+    std::unique_ptr<AboutWindowController> m_aboutController;
     std::unique_ptr<ScheduledWork> m_pickAfterMenu;
     std::unique_ptr<ScheduledWork> m_paletteLoad;
     /// Waits for a status area to come up, as long as there is none.

@@ -3,14 +3,34 @@
 #include "app/AppDelegate.h"
 
 #include "KeyboardShortcuts/ShortcutDescription.h"
+#include "contrast/ContrastWindowController.h"
+#include "convert/ColorPickerWindowController.h"
 #include "imagepalette/ImageOffer.h"
 #include "palettes/PalettesWindow.h"
+
+#include <QApplication>
+#include <QDesktopServices>
 
 namespace dropshade {
 
 // Every way to a window ends here: a row of the menu, a global shortcut, an action on the bus.
 
-void AppDelegate::openColorPicker() {}
+ColorWindowSurroundings AppDelegate::colorWindowSurroundings() {
+    return {look(),
+            *m_platform.defaults,
+            m_settings,
+            *m_platform.pasteboard,
+            *m_platform.scheduler,
+            m_colorPickerService,
+            m_copier};
+}
+
+void AppDelegate::openColorPicker() {
+    if (!m_colorPickerController)
+        m_colorPickerController =
+            std::make_unique<ColorPickerWindowController>(colorWindowSurroundings());
+    m_colorPickerController->show();
+}
 
 /// The window is built here and not after the launch: hidden, it would be most of the memory of a
 /// program that is its status item.
@@ -34,7 +54,12 @@ void AppDelegate::openPalettes() {
     palettesController().bringUp();
 }
 
-void AppDelegate::openContrast() {}
+void AppDelegate::openContrast() {
+    if (!m_contrastController)
+        m_contrastController = std::make_unique<ContrastWindowController>(
+            colorWindowSurroundings(), [] { QApplication::beep(); });
+    m_contrastController->show();
+}
 
 NewPaletteFromImageWindowController& AppDelegate::newPaletteFromImageController() {
     if (!m_newPaletteFromImageController)
@@ -135,8 +160,39 @@ void AppDelegate::exportPaletteTo(const Palette& palette, PaletteExportFormat fo
     m_paletteExporter.exportPalette(palette, format);
 }
 
-void AppDelegate::openSettings() {}
+void AppDelegate::openSettings() {
+    settingsController().show();
+}
 
-void AppDelegate::openAbout() {}
+SettingsViewController& AppDelegate::settingsController() {
+    if (!m_settingsController) {
+        const Platform& platform = m_platform;
+        m_settingsController =
+            std::make_unique<SettingsViewController>(SettingsViewController::Surroundings{
+                look(),
+                {*platform.defaults, *platform.scheduler, m_settings, *platform.previewPlayer,
+                 *platform.loginItem, [this]() -> UpdateService& { return updateService(); },
+                 [this]() -> CloudSyncEngine& { return syncEngine(); }},
+                {*platform.defaults, *platform.scheduler, cloudAccounts(),
+                 [this] { syncAccountDidChange(); }},
+                m_shortcuts,
+                *platform.alerts,
+                *platform.filePanels});
+    }
+    return *m_settingsController;
+}
+
+void AppDelegate::openAbout() {
+    aboutController().show();
+}
+
+AboutWindowController& AppDelegate::aboutController() {
+    if (!m_aboutController)
+        m_aboutController = std::make_unique<AboutWindowController>(
+            AboutWindowController::Surroundings{look(), *m_platform.defaults, [](const QUrl& url) {
+                                                    QDesktopServices::openUrl(url);
+                                                }});
+    return *m_aboutController;
+}
 
 } // namespace dropshade

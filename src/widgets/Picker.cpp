@@ -135,10 +135,13 @@ void Picker::open() {
 }
 
 void Picker::pick(int index) {
-    if (index == m_current || !row(index))
+    if (!row(index))
         return;
-    setCurrentIndex(index);
-    Q_EMIT picked(index);
+    if (index != m_current) {
+        setCurrentIndex(index);
+        Q_EMIT picked(index);
+    }
+    Q_EMIT chosen(index);
 }
 
 void Picker::step(int by) {

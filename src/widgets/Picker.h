@@ -39,6 +39,8 @@ public:
 Q_SIGNALS:
     /// The user chose another row.
     void picked(int index);
+    /// The user chose a row, be it the present one; after `picked`.
+    void chosen(int index);
 
 protected:
     void paint(QPainter& painter) override;

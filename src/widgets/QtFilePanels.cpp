@@ -54,14 +54,13 @@ void showOverFrontWindow(QFileDialog& dialog) {
 
 } // namespace
 
-QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind, Answer answer) {
+QFileDialog& QtFilePanels::makeDialog(const QString& title, Answer answer) {
     if (m_folder.isEmpty())
         m_folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     auto* dialog = new QFileDialog(nullptr, title, m_folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setPalette(
         paletteOf(Theme::of(m_appearance.isDark() ? Theme::Scheme::Dark : Theme::Scheme::Light)));
-    dialog->setNameFilters(filters(kind));
     QObject::connect(&m_life, &QObject::destroyed, dialog, [dialog] { delete dialog; });
     QObject::connect(dialog, &QDialog::finished, &m_life,
                      [this, dialog, answer = std::move(answer)](int result) {
@@ -75,14 +74,23 @@ QFileDialog& QtFilePanels::makeDialog(const QString& title, const FileKind& kind
 }
 
 void QtFilePanels::open(const QString& title, const FileKind& kind, Answer answer) {
-    QFileDialog& dialog = makeDialog(title, kind, std::move(answer));
+    QFileDialog& dialog = makeDialog(title, std::move(answer));
+    dialog.setNameFilters(filters(kind));
     dialog.setFileMode(QFileDialog::ExistingFile);
+    showOverFrontWindow(dialog);
+}
+
+void QtFilePanels::openFolder(const QString& title, Answer answer) {
+    QFileDialog& dialog = makeDialog(title, std::move(answer));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
     showOverFrontWindow(dialog);
 }
 
 void QtFilePanels::save(const QString& title, const QString& name, const FileKind& kind,
                         Answer answer) {
-    QFileDialog& dialog = makeDialog(title, kind, std::move(answer));
+    QFileDialog& dialog = makeDialog(title, std::move(answer));
+    dialog.setNameFilters(filters(kind));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(kind.extensions.constFirst());

@@ -18,12 +18,12 @@ public:
     explicit QtFilePanels(const DesktopAppearance& appearance) : m_appearance(appearance) {}
 
     void open(const QString& title, const FileKind& kind, Answer answer) override;
+    void openFolder(const QString& title, Answer answer) override;
     void save(const QString& title, const QString& name, const FileKind& kind,
               Answer answer) override;
 
 private:
-    [[nodiscard]] QFileDialog& makeDialog(const QString& title, const FileKind& kind,
-                                          Answer answer);
+    [[nodiscard]] QFileDialog& makeDialog(const QString& title, Answer answer);
 
     const DesktopAppearance& m_appearance;
     QObject m_life; ///< Panels that are still up end with it.

@@ -24,6 +24,9 @@ public:
     void open(const QString& title, const FileKind& kind, Answer answer) override {
         m_panels.append({false, title, QString(), kind, std::move(answer)});
     }
+    void openFolder(const QString& title, Answer answer) override {
+        m_panels.append({false, title, QString(), FileKind(), std::move(answer)});
+    }
     void save(const QString& title, const QString& name, const FileKind& kind,
               Answer answer) override {
         m_panels.append({true, title, name + QLatin1Char('.') + kind.extensions.constFirst(), kind,

@@ -1,0 +1,191 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "app/SettingsRootView.h"
+
+#include "KeyboardShortcuts/RecorderCocoa.h"
+#include "app/CloudSyncStatusLabel.h"
+#include "app/CopySound.h"
+#include "app/MenuBarIconPicker.h"
+#include "app/SyncAccountView.h"
+#include "widgets/Picker.h"
+#include "widgets/SegmentedControl.h"
+#include "widgets/TextField.h"
+#include "widgets/Toggle.h"
+
+#include <QAbstractButton>
+#include <QLocale>
+
+namespace dropshade {
+namespace {
+
+constexpr int pickerWidth = 176;
+constexpr int formatWidth = 208;
+constexpr int numberWidth = 60;
+constexpr int fewestDecimalPlaces = 2;
+
+QString text(std::string_view latin) {
+    return QString::fromLatin1(latin.data(), static_cast<qsizetype>(latin.size()));
+}
+
+} // namespace
+
+SettingsRootView::SettingsRootView(const Surroundings& surroundings)
+    : SettingsForm(surroundings.look), m_with(surroundings), m_model(surroundings.model) {
+    buildGeneral();
+    buildSync();
+    buildFormat();
+    buildHotkeys();
+    connect(&m_model, &SettingsModel::didChange, this, &SettingsRootView::showValues);
+    connect(&m_model, &SettingsModel::syncStatusDidChange, this, &SettingsRootView::showSyncStatus);
+    showValues();
+}
+
+Toggle* SettingsRootView::addToggle(const QString& name, void (SettingsModel::*set)(bool),
+                                    SettingsRow** row) {
+    auto* toggle = new Toggle(m_with.look, name, this);
+    // The user's clicks alone, not what shows the model's values.
+    connect(toggle, &QAbstractButton::clicked, this, [this, set](bool on) { (m_model.*set)(on); });
+    SettingsRow* added = addRow(name, toggle);
+    if (row)
+        *row = added;
+    return toggle;
+}
+
+void SettingsRootView::buildGeneral() {
+    //: Section of the settings
+    addSection(tr("General"));
+    //: Setting
+    const QString iconName = tr("Menu bar icon");
+    m_icon = new MenuBarIconPicker(m_with.look, iconName, this);
+    connect(m_icon, &MenuBarIconPicker::picked, &m_model, &SettingsModel::setMenuBarIconStyle);
+    addRow(iconName, m_icon);
+
+    //: Setting; a number
+    const QString recentName = tr("Recent colors in menu");
+    m_recentColors = new TextField(m_with.look, TextField::Content::Words, this);
+    m_recentColors->setAccessibleName(recentName);
+    m_recentColors->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_recentColors->setFixedWidth(numberWidth);
+    connect(m_recentColors, &QLineEdit::editingFinished, this, [this] {
+        // The focus leaves each field that the Tab key visits.
+        if (m_recentColors->isModified())
+            m_model.setRecentColorsLimitText(m_recentColors->text());
+    });
+    addRow(recentName, m_recentColors);
+
+    //: Setting
+    const QString soundName = tr("Copy sound");
+    m_sound = new Picker(m_with.look, soundName, this);
+    m_sound->addRow(SettingsModel::copySoundTitle(noCopySound), QString(noCopySound));
+    m_sound->addSeparator();
+    for (const QLatin1StringView sound : copySounds)
+        m_sound->addRow(SettingsModel::copySoundTitle(sound), QString(sound));
+    m_sound->setFixedWidth(pickerWidth);
+    connect(m_sound, &Picker::chosen, this,
+            [this] { m_model.chooseCopySound(m_sound->currentValue().toString()); });
+    addRow(soundName, m_sound);
+
+    //: Setting
+    m_login = addToggle(tr("Start automatically on login"), &SettingsModel::setLaunchAtLogin);
+    //: Setting
+    m_updates =
+        addToggle(tr("Automatically check for updates"), &SettingsModel::setAutoCheckUpdates);
+}
+
+void SettingsRootView::buildSync() {
+    SettingsRow* row = nullptr;
+    //: Setting
+    m_sync = addToggle(tr("Sync via iCloud"), &SettingsModel::setICloudSyncEnabled, &row);
+    //: Setting: what it does
+    const QString subtitle = tr("Keep palettes and preferences in sync across your Macs.");
+    m_sync->setAccessibleDescription(subtitle);
+    row->addCaption(subtitle);
+    m_syncStatus = new CloudSyncStatusLabel(m_with.look, row);
+    row->addBelow(*m_syncStatus);
+    m_syncAccount = new SyncAccountView(m_with.look, m_with.syncAccount, m_with.panels, row);
+    row->addBelow(*m_syncAccount);
+}
+
+void SettingsRootView::buildFormat() {
+    //: Section of the settings
+    addSection(tr("Format"));
+    //: Setting
+    const QString formatName = tr("Format");
+    m_format = new Picker(m_with.look, formatName, this);
+    for (const ColorFormatGroup& group : formatGroups()) {
+        m_format->addHeader(text(group.title));
+        for (const ColorFormat format : group.formats)
+            m_format->addRow(text(displayName(format)), text(rawValue(format)));
+    }
+    m_format->setFixedWidth(formatWidth);
+    connect(m_format, &Picker::picked, this,
+            [this] { m_model.setColorFormatRaw(m_format->currentValue().toString()); });
+    SettingsRow* row = addRow(formatName, m_format);
+    //: Setting: what the format is for
+    row->addCaption(tr("Colors will be copied to the clipboard in this format"));
+
+    //: Setting
+    m_lowercase = addToggle(tr("Use lowercase for copied colors"), &SettingsModel::setUseLowercase,
+                            &m_lowercaseRow);
+    //: Setting
+    m_prefix =
+        addToggle(tr("Use # prefix for hex codes"), &SettingsModel::setUseHashPrefix, &m_prefixRow);
+
+    //: Setting: how many digits behind the point
+    const QString precisionName = tr("Decimal precision");
+    m_precision = new SegmentedControl(
+        m_with.look, precisionName,
+        {QStringLiteral("0.00"), QStringLiteral("0.000"), QStringLiteral("0.0000")}, this);
+    for (auto* segment : m_precision->findChildren<QAbstractButton*>())
+        segment->setFont(textFont(TextStyle::Value));
+    m_precision->setFixedWidth(formatWidth);
+    connect(m_precision, &SegmentedControl::picked, this,
+            [this](int index) { m_model.setDecimalPlaces(fewestDecimalPlaces + index); });
+    m_precisionRow = addRow(precisionName, m_precision);
+}
+
+void SettingsRootView::buildHotkeys() {
+    //: Section of the settings
+    addSection(tr("Hotkeys"));
+    //: Setting: the shortcut of a command
+    addHotkey(tr("Quick Pick"), shortcutNames::pickColor);
+    //: Setting: the shortcut of a window
+    addHotkey(tr("Color Picker"), shortcutNames::convert);
+    //: Setting: the shortcut of a window
+    addHotkey(tr("Palettes"), shortcutNames::palettes);
+    //: Setting: the shortcut of a window
+    addHotkey(tr("Check Contrast"), shortcutNames::checkContrast);
+    //: Footer of the section of shortcuts
+    addFooter(tr("Activate from anywhere with the press of a button"));
+}
+
+void SettingsRootView::addHotkey(const QString& name, const ShortcutName& shortcutName) {
+    auto* recorder =
+        new RecorderCocoa(m_with.look, {m_with.shortcuts, m_with.alerts}, shortcutName, name, this);
+    recorder->setFixedWidth(pickerWidth);
+    addRow(name, recorder);
+}
+
+void SettingsRootView::showValues() {
+    m_icon->setIconStyle(m_model.menuBarIconStyle());
+    m_recentColors->setText(QLocale().toString(m_model.recentColorsLimit()));
+    m_sound->setCurrentValue(m_model.copySound());
+    m_login->setChecked(m_model.launchAtLogin());
+    m_updates->setChecked(m_model.autoCheckUpdates());
+    m_sync->setChecked(m_model.iCloudSyncEnabled());
+    m_syncAccount->setVisible(m_model.iCloudSyncEnabled());
+    m_format->setCurrentValue(text(rawValue(m_model.colorFormat())));
+    m_lowercase->setChecked(m_model.useLowercase());
+    m_prefix->setChecked(m_model.useHashPrefix());
+    m_precision->setCurrentIndex(m_model.decimalPlaces() - fewestDecimalPlaces);
+    m_lowercaseRow->setVisible(m_model.showsHexRows());
+    m_prefixRow->setVisible(m_model.showsHexRows());
+    m_precisionRow->setVisible(m_model.showsPrecisionRow());
+    showSyncStatus();
+}
+
+void SettingsRootView::showSyncStatus() {
+    m_syncStatus->setStatus(m_model.syncStatus());
+}
+
+} // namespace dropshade

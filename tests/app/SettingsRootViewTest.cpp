@@ -1,0 +1,297 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+#include "app/MenuBarIconPicker.h"
+#include "app/RecentColor.h"
+#include "app/SettingsReaders.h"
+#include "support/FakePlatform.h"
+#include "support/QtPrinters.h"
+#include "widgets/Picker.h"
+#include "widgets/SegmentedControl.h"
+#include "widgets/TextButton.h"
+#include "widgets/TextField.h"
+#include "widgets/Toggle.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace dropshade {
+namespace {
+
+/// The real window of the real program on a desktop of fakes, used as a user does.
+class SettingsRootViewTest : public testing::Test {
+protected:
+    QWidget& window() {
+        if (!delegate.settingsController().window())
+            open();
+        return *delegate.settingsController().window();
+    }
+    void open() {
+        delegate.openSettings();
+        QApplication::setActiveWindow(delegate.settingsController().window());
+    }
+    template <typename Control>
+    Control* find(const char* name) {
+        const auto all = window().findChildren<Control*>();
+        const auto found = std::find_if(all.begin(), all.end(), [name](const Control* control) {
+            return control->accessibleName() == QString::fromUtf8(name);
+        });
+        EXPECT_NE(found, all.end()) << name;
+        return *found;
+    }
+    Toggle* toggle(const char* name) { return find<Toggle>(name); }
+    void click(QWidget* control) {
+        // Rows that have just come find their places.
+        QCoreApplication::processEvents();
+        QTest::mouseClick(control, Qt::LeftButton);
+    }
+    /// The Tab key as a keyboard sends it, with its place.
+    static void pressTab(QWidget* focused) {
+        constexpr quint32 tab = 48;
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier,
+                        tab + FakeKeyboardLayout::scanCodeOffset, 0, 0);
+        QApplication::sendEvent(focused, &press);
+    }
+    void type(TextField* field, const char* text) {
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, QString::fromUtf8(text));
+        QTest::keyClick(field, Qt::Key_Return);
+    }
+    /// Opens the picker's list and chooses its row of that title.
+    void choose(Picker* picker, const QString& title) {
+        click(picker);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* action : menu->actions()) {
+            if (action->text() == title)
+                action->trigger();
+        }
+        menu->close();
+    }
+    [[nodiscard]] bool showsWords(const QString& words) {
+        const auto labels = window().findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [&words](const QLabel* label) {
+            return label->isVisible() && label->text() == words;
+        });
+    }
+
+    FakePlatform fakes;
+    AppDelegate delegate{std::move(fakes.platform)};
+};
+
+TEST_F(SettingsRootViewTest, IsBuiltAtItsFirstShowAndKeptAfterAClose) {
+    EXPECT_EQ(delegate.settingsController().window(), nullptr);
+    open();
+    QWidget* first = &window();
+    EXPECT_EQ(first->windowTitle(), QStringLiteral("Dropshade Settings"));
+    first->close();
+    EXPECT_FALSE(first->isVisible());
+    open();
+    EXPECT_EQ(&window(), first);
+    EXPECT_TRUE(first->isVisible());
+}
+
+TEST_F(SettingsRootViewTest, ATileChangesTheIconOfTheStatusItemAtOnce) {
+    delegate.applicationDidFinishLaunching();
+    const auto before = fakes.statusItem.icons().size();
+    const auto tiles = window().findChild<MenuBarIconPicker*>()->findChildren<QAbstractButton*>();
+    ASSERT_EQ(tiles.size(), 3);
+    EXPECT_TRUE(tiles.at(0)->isChecked());
+    click(tiles.at(2));
+    EXPECT_EQ(delegate.settings().menuBarIconStyle(), MenuBarIconStyle::Palette);
+    EXPECT_EQ(fakes.statusItem.icons().size(), before + 1);
+}
+
+TEST_F(SettingsRootViewTest, TypingNinetyNineShowsFifty) {
+    auto* field = find<TextField>("Recent colors in menu");
+    EXPECT_EQ(field->text(), QStringLiteral("8"));
+    type(field, "99");
+    EXPECT_EQ(field->text(), QStringLiteral("50"));
+    EXPECT_EQ(fakes.defaults.read<qint64>(keys::recentColorsLimit), 50);
+}
+
+TEST_F(SettingsRootViewTest, TypingANumberDigitByDigitCutsNothingOnTheWay) {
+    for (int i = 0; i < 8; ++i)
+        recordRecentColor(fakes.defaults, SRGBColor(i / 10.0, 0.0, 0.0, 1.0));
+    auto* field = find<TextField>("Recent colors in menu");
+    type(field, "12");
+    EXPECT_EQ(loadRecentColors(fakes.defaults).size(), 8);
+    type(field, "many");
+    EXPECT_EQ(field->text(), QStringLiteral("12"));
+}
+
+TEST_F(SettingsRootViewTest, WhatIsTypedCountsWhenTheWindowIsClosed) {
+    auto* field = find<TextField>("Recent colors in menu");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, QStringLiteral("5"));
+    window().close();
+    EXPECT_EQ(fakes.defaults.read<qint64>(keys::recentColorsLimit), 5);
+}
+
+TEST_F(SettingsRootViewTest, VisitingTheNumberWithoutTypingWritesNothing) {
+    auto* field = find<TextField>("Recent colors in menu");
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Tab);
+    EXPECT_FALSE(fakes.defaults.contains(keys::recentColorsLimit));
+}
+
+TEST_F(SettingsRootViewTest, ChoosingTheSameSoundAgainPlaysIt) {
+    auto* picker = find<Picker>("Copy sound");
+    EXPECT_EQ(picker->currentText(), QStringLiteral("Drop (default)"));
+    EXPECT_EQ(picker->count(), 10);
+    choose(picker, QStringLiteral("Drop (default)"));
+    choose(picker, QStringLiteral("Coin"));
+    EXPECT_EQ(fakes.previewPlayer.played(), (QStringList{QStringLiteral(":/sounds/drop.aiff"),
+                                                         QStringLiteral(":/sounds/coin.aiff")}));
+    EXPECT_EQ(fakes.defaults.read<QString>(keys::copySound), QStringLiteral("coin"));
+    choose(picker, QStringLiteral("None"));
+    EXPECT_EQ(fakes.previewPlayer.played().size(), 2);
+}
+
+TEST_F(SettingsRootViewTest, APreviewNeverTouchesWhatACopyPlays) {
+    choose(find<Picker>("Copy sound"), QStringLiteral("Coin"));
+    EXPECT_TRUE(fakes.soundPlayer.played().isEmpty());
+    fakes.defaults.setFromAnotherProcess(keys::copySound, QStringLiteral("drop"));
+    delegate.copyColor(SRGBColor(1.0, 0.0, 0.0, 1.0));
+    EXPECT_EQ(fakes.soundPlayer.played(), QStringList{QStringLiteral(":/sounds/drop.aiff")});
+}
+
+TEST_F(SettingsRootViewTest, ALoginItemThatTheSystemRefusesLeavesTheToggleOff) {
+    fakes.loginItem.setRefuses(true);
+    click(toggle("Start automatically on login"));
+    EXPECT_FALSE(toggle("Start automatically on login")->isChecked());
+    EXPECT_TRUE(fakes.alerts.shown().isEmpty());
+    fakes.loginItem.setRefuses(false);
+    click(toggle("Start automatically on login"));
+    EXPECT_TRUE(toggle("Start automatically on login")->isChecked());
+    EXPECT_TRUE(fakes.loginItem.isRegistered());
+}
+
+TEST_F(SettingsRootViewTest, TheLoginToggleIsReadFromTheSystemAtEachShow) {
+    EXPECT_FALSE(toggle("Start automatically on login")->isChecked());
+    window().close();
+    fakes.loginItem.setRegistered(true);
+    open();
+    EXPECT_TRUE(toggle("Start automatically on login")->isChecked());
+}
+
+TEST_F(SettingsRootViewTest, TheUpdateToggleIsTheUpdaters) {
+    click(toggle("Automatically check for updates"));
+    EXPECT_TRUE(delegate.updateService().automaticallyChecksForUpdates());
+}
+
+TEST_F(SettingsRootViewTest, TheSyncToggleStartsSyncAndShowsItsStateAndItsFields) {
+    delegate.applicationDidFinishLaunching();
+    auto* kind = find<Picker>("Keep data in");
+    EXPECT_FALSE(kind->isVisible());
+    click(toggle("Sync via iCloud"));
+    EXPECT_TRUE(delegate.syncEngine().isStarted());
+    EXPECT_TRUE(showsWords(QStringLiteral("Last synced: now")));
+    EXPECT_TRUE(kind->isVisible());
+    EXPECT_TRUE(find<TextField>("Folder")->isVisible());
+    EXPECT_FALSE(find<TextField>("Address")->isVisible());
+    fakes.cloudStore.setTrouble(QStringLiteral("The folder is full."));
+    EXPECT_TRUE(showsWords(QStringLiteral("The folder is full.")));
+    click(toggle("Sync via iCloud"));
+    EXPECT_FALSE(delegate.syncEngine().isStarted());
+    EXPECT_FALSE(kind->isVisible());
+}
+
+TEST_F(SettingsRootViewTest, TheEtcdFieldsAreStoredAndTestedInWords) {
+    click(toggle("Sync via iCloud"));
+    choose(find<Picker>("Keep data in"), QStringLiteral("An etcd server"));
+    EXPECT_FALSE(find<TextField>("Folder")->isVisible());
+    type(find<TextField>("Address"), "etcd.home.arpa:2379");
+    EXPECT_EQ(find<TextField>("Address")->text(), QStringLiteral("https://etcd.home.arpa:2379"));
+    type(find<TextField>("User"), "dropshade");
+    type(find<TextField>("Password"), "geheim");
+    EXPECT_EQ(find<TextField>("Password")->echoMode(), QLineEdit::Password);
+    EXPECT_EQ(fakes.cloudAccounts.keptPassword, QStringLiteral("geheim"));
+    click(find<TextButton>("Choose CA Certificate"));
+    fakes.filePanels.choose(QStringLiteral("/etc/ca.pem"));
+    EXPECT_EQ(CloudAccount::read(fakes.defaults).authority, QStringLiteral("/etc/ca.pem"));
+    const auto buttons = window().findChildren<TextButton*>();
+    click(*std::find_if(buttons.begin(), buttons.end(), [](const TextButton* button) {
+        return button->text() == QStringLiteral("Test connection");
+    }));
+    fakes.cloudAccounts.answerCheck(QStringLiteral("The password is wrong."));
+    EXPECT_TRUE(showsWords(QStringLiteral("The password is wrong.")));
+}
+
+TEST_F(SettingsRootViewTest, AFolderIsChosenInAPanel) {
+    click(toggle("Sync via iCloud"));
+    click(find<TextButton>("Choose Folder"));
+    ASSERT_EQ(fakes.filePanels.panels().size(), 1);
+    fakes.filePanels.choose(QStringLiteral("/srv/shared"));
+    EXPECT_EQ(find<TextField>("Folder")->text(), QStringLiteral("/srv/shared"));
+    EXPECT_EQ(CloudAccount::read(fakes.defaults).folder, QStringLiteral("/srv/shared"));
+}
+
+TEST_F(SettingsRootViewTest, OnlyTheRowsOfTheSelectedFormatShowAndTheWindowFits) {
+    auto* format = find<Picker>("Format");
+    auto* precision = find<SegmentedControl>("Decimal precision");
+    EXPECT_EQ(format->count(), 21);
+    EXPECT_TRUE(toggle("Use # prefix for hex codes")->isVisible());
+    EXPECT_FALSE(precision->isVisible());
+    QCoreApplication::sendPostedEvents();
+    const int withHexRows = window().height();
+    choose(format, QStringLiteral("CSS RGB"));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_FALSE(toggle("Use lowercase for copied colors")->isVisible());
+    EXPECT_FALSE(toggle("Use # prefix for hex codes")->isVisible());
+    EXPECT_FALSE(precision->isVisible());
+    EXPECT_LE(window().height(), withHexRows);
+    choose(format, QStringLiteral("NSColor RGB"));
+    EXPECT_TRUE(precision->isVisible());
+    click(precision->findChildren<QAbstractButton*>().at(1));
+    EXPECT_EQ(fakes.defaults.read<qint64>(keys::decimalPlaces), 3);
+}
+
+TEST_F(SettingsRootViewTest, AnotherMachinesSettingsAppearInTheOpenWindowWithoutASound) {
+    window();
+    fakes.defaults.setValue(keys::copySound, QStringLiteral("pop"));
+    fakes.defaults.setValue(keys::useLowercase, true);
+    fakes.defaults.setValue(keys::recentColorsLimit, qint64(30));
+    fakes.defaults.setValue(keys::menuBarIconStyle, QStringLiteral("swatch"));
+    delegate.settings().reloadFromDefaults();
+    EXPECT_EQ(find<Picker>("Copy sound")->currentText(), QStringLiteral("Pop"));
+    EXPECT_TRUE(toggle("Use lowercase for copied colors")->isChecked());
+    EXPECT_EQ(find<TextField>("Recent colors in menu")->text(), QStringLiteral("30"));
+    const auto tiles = window().findChild<MenuBarIconPicker*>()->findChildren<QAbstractButton*>();
+    EXPECT_TRUE(tiles.at(1)->isChecked());
+    EXPECT_TRUE(fakes.previewPlayer.played().isEmpty());
+}
+
+TEST_F(SettingsRootViewTest, EveryControlHasANameAndAWayToItByTheKeyboard) {
+    click(toggle("Sync via iCloud"));
+    QSet<QWidget*> reached;
+    window().setFocus();
+    for (int step = 0; step < 60; ++step) {
+        ASSERT_NE(window().focusWidget(), nullptr);
+        pressTab(window().focusWidget());
+        reached.insert(window().focusWidget());
+    }
+    for (auto* control : window().findChildren<QWidget*>()) {
+        const bool isControl =
+            qobject_cast<QAbstractButton*>(control) || qobject_cast<QLineEdit*>(control);
+        if (!isControl || !control->isVisible())
+            continue;
+        const auto* button = qobject_cast<QAbstractButton*>(control);
+        EXPECT_FALSE(control->accessibleName().isEmpty() && (!button || button->text().isEmpty()))
+            << control->metaObject()->className();
+        // Of a group of choices the Tab key reaches the selected one.
+        const bool isOtherChoice = button && button->autoExclusive() && !button->isChecked();
+        EXPECT_TRUE(isOtherChoice || reached.contains(control))
+            << qPrintable(control->accessibleName()) << control->metaObject()->className();
+    }
+}
+
+} // namespace
+} // namespace dropshade

@@ -1,0 +1,1545 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en_US" sourcelanguage="en">
+<context>
+    <name>AboutWindow</name>
+    <message>
+        <source>Version %1</source>
+        <extracomment>About window; %1 is a version number</extracomment>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>A minimal color picker for your menu bar.
+No accounts. No subscriptions. No telemetry.</source>
+        <comment>App description</comment>
+        <extracomment>App description</extracomment>
+        <translation>A minimal color picker for your panel.
+No accounts. No subscriptions. No telemetry.</translation>
+    </message>
+    <message>
+        <source>You&apos;ve copied 1 color.</source>
+        <comment>About lifetime singular</comment>
+        <extracomment>About lifetime singular</extracomment>
+        <translation>You&apos;ve copied 1 color.</translation>
+    </message>
+    <message>
+        <source>You&apos;ve copied %d colors.</source>
+        <comment>About lifetime plural</comment>
+        <extracomment>About lifetime plural; %d is the number</extracomment>
+        <translation>You&apos;ve copied %d colors.</translation>
+    </message>
+</context>
+<context>
+    <name>ContrastVerdicts</name>
+    <message>
+        <source>bold</source>
+        <comment>Font weight</comment>
+        <translation>bold</translation>
+    </message>
+    <message>
+        <source>semibold</source>
+        <comment>Font weight</comment>
+        <translation>semibold</translation>
+    </message>
+    <message>
+        <source>medium</source>
+        <comment>Font weight</comment>
+        <translation>medium</translation>
+    </message>
+    <message>
+        <source>regular</source>
+        <comment>Font weight</comment>
+        <translation>regular</translation>
+    </message>
+    <message>
+        <source>meets</source>
+        <comment>WCAG verdict — pass</comment>
+        <translation>meets</translation>
+    </message>
+    <message>
+        <source>fails</source>
+        <comment>WCAG verdict — fail</comment>
+        <translation>fails</translation>
+    </message>
+    <message>
+        <source>%1: %2 %3:1 %4 the %5:1 minimum.</source>
+        <comment>WCAG line badge tooltip</comment>
+        <extracomment>%1 a line&apos;s description, %2 AA or AAA, %3 the ratio, %4 meets or fails, %5 the minimum</extracomment>
+        <translation>%1: %2 %3:1 %4 the %5:1 minimum.</translation>
+    </message>
+    <message>
+        <source>%1: Lc %2 meets the APCA Bronze minimum of Lc %3.</source>
+        <comment>APCA tier pill tooltip — pass</comment>
+        <extracomment>%1 a tier&apos;s name, %2 and %3 whole numbers</extracomment>
+        <translation>%1: Lc %2 meets the APCA Bronze minimum of Lc %3.</translation>
+    </message>
+    <message>
+        <source>%1: Lc %2 is below the APCA Bronze minimum of Lc %3.</source>
+        <comment>APCA tier pill tooltip — fail</comment>
+        <translation>%1: Lc %2 is below the APCA Bronze minimum of Lc %3.</translation>
+    </message>
+    <message>
+        <source>Normal text</source>
+        <comment>WCAG normal-text sample</comment>
+        <translation>Normal text</translation>
+    </message>
+    <message>
+        <source>Normal text</source>
+        <comment>WCAG normal-text role label</comment>
+        <translation>Normal text</translation>
+    </message>
+    <message>
+        <source>Large text</source>
+        <comment>WCAG large-text sample</comment>
+        <translation>Large text</translation>
+    </message>
+    <message>
+        <source>Large text</source>
+        <comment>WCAG large-text role label</comment>
+        <translation>Large text</translation>
+    </message>
+    <message>
+        <source>Normal text</source>
+        <comment>APCA tier — fluent body reading (Lc 75 minimum)</comment>
+        <translation>Normal text</translation>
+    </message>
+    <message>
+        <source>Large text</source>
+        <comment>APCA tier — large text and headings</comment>
+        <translation>Large text</translation>
+    </message>
+    <message>
+        <source>Graphics and UI</source>
+        <comment>APCA tier — icons, dividers, borders, UI components</comment>
+        <translation>Graphics and UI</translation>
+    </message>
+    <message>
+        <source>Fix for APCA</source>
+        <comment>Action menu section</comment>
+        <translation>Fix for APCA</translation>
+    </message>
+    <message>
+        <source>Normal text (Lc 75)</source>
+        <comment>APCA fix item — normal/body text minimum</comment>
+        <translation>Normal text (Lc 75)</translation>
+    </message>
+    <message>
+        <source>Large text (Lc 45)</source>
+        <comment>APCA fix item — large text minimum</comment>
+        <translation>Large text (Lc 45)</translation>
+    </message>
+    <message>
+        <source>Graphics and UI (Lc 30)</source>
+        <comment>APCA fix item — graphics and UI minimum</comment>
+        <translation>Graphics and UI (Lc 30)</translation>
+    </message>
+    <message>
+        <source>Fix for Normal Text</source>
+        <comment>Action menu section</comment>
+        <translation>Fix for Normal Text</translation>
+    </message>
+    <message>
+        <source>AA (4.5:1)</source>
+        <comment>WCAG fix item</comment>
+        <translation>AA (4.5:1)</translation>
+    </message>
+    <message>
+        <source>AAA (7:1)</source>
+        <comment>WCAG fix item</comment>
+        <translation>AAA (7:1)</translation>
+    </message>
+    <message>
+        <source>Fix for Large Text (≥ 18pt or ≥ 14pt bold)</source>
+        <comment>Action menu section</comment>
+        <translation>Fix for Large Text (≥ 18pt or ≥ 14pt bold)</translation>
+    </message>
+    <message>
+        <source>AA (3:1)</source>
+        <comment>WCAG fix item</comment>
+        <translation>AA (3:1)</translation>
+    </message>
+    <message>
+        <source>AAA (4.5:1)</source>
+        <comment>WCAG fix item</comment>
+        <translation>AAA (4.5:1)</translation>
+    </message>
+</context>
+<context>
+    <name>EditMenu</name>
+    <message>
+        <source>Cut</source>
+        <comment>Edit menu item</comment>
+        <extracomment>Edit menu item</extracomment>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <comment>Edit menu item</comment>
+        <extracomment>Edit menu item</extracomment>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <comment>Edit menu item</comment>
+        <extracomment>Edit menu item</extracomment>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <comment>Edit menu item</comment>
+        <extracomment>Edit menu item</extracomment>
+        <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>GenericErrorText</name>
+    <message>
+        <source>The operation couldn&apos;t be completed. (%1)</source>
+        <comment>An error without words of its own; %1 is its technical name</comment>
+        <translation>The operation couldn&apos;t be completed. (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>ImportedNames</name>
+    <message>
+        <source>Imported Palette</source>
+        <extracomment>The name of a palette read from a file that gives it none.</extracomment>
+        <translation>Imported Palette</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>The name of a row of colours that stood in no group of their file.</extracomment>
+        <translation>Colors</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcuts</name>
+    <message>
+        <source>Record Shortcut</source>
+        <comment>record_shortcut</comment>
+        <extracomment>On an empty shortcut recorder</extracomment>
+        <translation>Record Shortcut</translation>
+    </message>
+    <message>
+        <source>Press Shortcut</source>
+        <comment>press_shortcut</comment>
+        <extracomment>On a shortcut recorder that listens</extracomment>
+        <translation>Press Shortcut</translation>
+    </message>
+    <message>
+        <source>That shortcut belongs to the menu item “%1”.</source>
+        <comment>keyboard_shortcut_used_by_menu_item</comment>
+        <extracomment>Alert of a shortcut recorder; %1 is the title of a menu item</extracomment>
+        <translation>That shortcut belongs to the menu item “%1”.</translation>
+    </message>
+    <message>
+        <source>The desktop or another program uses that shortcut already.</source>
+        <comment>keyboard_shortcut_used_by_system</comment>
+        <extracomment>Alert of a shortcut recorder</extracomment>
+        <translation>The desktop or another program uses that shortcut already.</translation>
+    </message>
+    <message>
+        <source>Shortcuts of the desktop can be changed in its keyboard settings. Until then, this one may not reach Dropshade.</source>
+        <comment>keyboard_shortcuts_can_be_changed</comment>
+        <extracomment>Second line of the alert that the desktop or another program uses a shortcut</extracomment>
+        <translation>Shortcuts of the desktop can be changed in its keyboard settings. Until then, this one may not reach Dropshade.</translation>
+    </message>
+    <message>
+        <source>This desktop can’t give that shortcut to a program.</source>
+        <comment>keyboard_shortcut_disallowed</comment>
+        <extracomment>Alert of a shortcut recorder</extracomment>
+        <translation>This desktop can’t give that shortcut to a program.</translation>
+    </message>
+    <message>
+        <source>Use It All the Same</source>
+        <comment>force_use_shortcut</comment>
+        <extracomment>Button of the alert that the desktop or another program uses a shortcut</extracomment>
+        <translation>Use It All the Same</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <comment>ok</comment>
+        <extracomment>Button of a shortcut recorder&apos;s alerts, which changes nothing</extracomment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <extracomment>The space bar, where a key combination is shown</extracomment>
+        <translation>Space</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteDrop</name>
+    <message>
+        <source>Drop image to create a new palette</source>
+        <extracomment>Shown while an image is dragged over the window</extracomment>
+        <translation>Drop image to create a new palette</translation>
+    </message>
+    <message>
+        <source>Drop palette file to import</source>
+        <extracomment>Shown while a palette file is dragged over the window</extracomment>
+        <translation>Drop palette file to import</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteExportFormat</name>
+    <message>
+        <source>Adobe Swatch Exchange (.ase)</source>
+        <extracomment>Export format</extracomment>
+        <translation>Adobe Swatch Exchange (.ase)</translation>
+    </message>
+    <message>
+        <source>Apple Color List (.clr)</source>
+        <extracomment>Export format</extracomment>
+        <translation>Apple Color List (.clr)</translation>
+    </message>
+    <message>
+        <source>JSON (.json)</source>
+        <extracomment>Export format</extracomment>
+        <translation>JSON (.json)</translation>
+    </message>
+    <message>
+        <source>Plain Text (.txt)</source>
+        <extracomment>Export format</extracomment>
+        <translation>Plain Text (.txt)</translation>
+    </message>
+    <message>
+        <source>PNG Image (.png)</source>
+        <extracomment>Export format</extracomment>
+        <translation>PNG Image (.png)</translation>
+    </message>
+    <message>
+        <source>PDF Document (.pdf)</source>
+        <extracomment>Export format</extracomment>
+        <translation>PDF Document (.pdf)</translation>
+    </message>
+    <message>
+        <source>HTML Document (.html)</source>
+        <extracomment>Export format</extracomment>
+        <translation>HTML Document (.html)</translation>
+    </message>
+    <message>
+        <source>CSS Stylesheet (.css)</source>
+        <extracomment>Export format</extracomment>
+        <translation>CSS Stylesheet (.css)</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteExporter</name>
+    <message>
+        <source>Export Palette</source>
+        <comment>Title of the panel that asks where to write a palette</comment>
+        <translation>Export Palette</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t export palette</source>
+        <comment>Export error title</comment>
+        <translation>Couldn&apos;t export palette</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <comment>File name for a palette without a name</comment>
+        <translation>Palette</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteImageRenderer</name>
+    <message>
+        <source>Palette</source>
+        <comment>Title of a palette without a name</comment>
+        <translation>Palette</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteImporterError</name>
+    <message>
+        <source>The data isn&apos;t in the correct format.</source>
+        <comment>A file of JSON that isn&apos;t a palette</comment>
+        <translation>The data isn&apos;t in the correct format.</translation>
+    </message>
+    <message>
+        <source>This file type (.%1) isn&apos;t supported. Try .ase, .clr, or .json.</source>
+        <comment>Import error; %1 is a file extension</comment>
+        <translation>This file type (.%1) isn&apos;t supported. Try .ase, .clr, or .json.</translation>
+    </message>
+    <message>
+        <source>The file couldn&apos;t be read as a palette. %1</source>
+        <comment>Import error; %1 is the reason</comment>
+        <translation>The file couldn&apos;t be read as a palette. %1</translation>
+    </message>
+</context>
+<context>
+    <name>PalettePresets</name>
+    <message>
+        <source>Tailwind</source>
+        <comment>Built-in palette name</comment>
+        <translation>Tailwind</translation>
+    </message>
+    <message>
+        <source>Harmony</source>
+        <comment>Built-in palette name</comment>
+        <translation>Harmony</translation>
+    </message>
+</context>
+<context>
+    <name>PaletteTextExporter</name>
+    <message>
+        <source>Palette</source>
+        <comment>Title of a palette without a name</comment>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <comment>Heading of a scale without a name</comment>
+        <translation>Untitled</translation>
+    </message>
+</context>
+<context>
+    <name>PasswordKeeper</name>
+    <message>
+        <source>The password can&apos;t be kept.</source>
+        <comment>Neither the desktop nor the disk takes it</comment>
+        <translation>The password can&apos;t be kept.</translation>
+    </message>
+</context>
+<context>
+    <name>PopoverButtons</name>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Button of a popover or sheet</extracomment>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>QtFilePanels</name>
+    <message>
+        <source>All Files (*)</source>
+        <comment>Filter of a file panel</comment>
+        <translation>All Files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsWindow</name>
+    <message>
+        <source>None</source>
+        <extracomment>Copy sound: silence</extracomment>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>%1 (default)</source>
+        <extracomment>Copy sound that a fresh install has; %1 is its name</extracomment>
+        <translation>%1 (default)</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <extracomment>Sync settings: the connection is being tested</extracomment>
+        <translation>Connecting…</translation>
+    </message>
+    <message>
+        <source>Connected in %1 ms</source>
+        <extracomment>Sync settings: the test of the connection went well; %1 is a number of milliseconds</extracomment>
+        <translation>Connected in %1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>SyncStatusLabel</name>
+    <message numerus="yes">
+        <source>%n seconds ago</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>
+            <numerusform>%n second ago</numerusform>
+            <numerusform>%n seconds ago</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>
+            <numerusform>%n minute ago</numerusform>
+            <numerusform>%n minutes ago</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>
+            <numerusform>%n hour ago</numerusform>
+            <numerusform>%n hours ago</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>yesterday</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>yesterday</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>
+            <numerusform>%n day ago</numerusform>
+            <numerusform>%n days ago</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>last week</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>last week</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weeks ago</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>
+            <numerusform>%n week ago</numerusform>
+            <numerusform>%n weeks ago</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>last month</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>last month</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n months ago</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>
+            <numerusform>%n month ago</numerusform>
+            <numerusform>%n months ago</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>last year</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>last year</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n years ago</source>
+        <extracomment>A moment of the past, after &quot;Last synced: &quot;</extracomment>
+        <translation>
+            <numerusform>%n year ago</numerusform>
+            <numerusform>%n years ago</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>now</source>
+        <extracomment>This moment, after &quot;Last synced: &quot;</extracomment>
+        <translation>now</translation>
+    </message>
+    <message>
+        <source>iCloud sync is approaching its size limit. Consider trimming unused palettes.</source>
+        <extracomment>Sync status label</extracomment>
+        <translation>Sync is approaching its size limit. Consider trimming unused palettes.</translation>
+    </message>
+    <message>
+        <source>Syncing…</source>
+        <extracomment>Sync status label</extracomment>
+        <translation>Syncing…</translation>
+    </message>
+    <message>
+        <source>Last synced: %1</source>
+        <extracomment>Sync status label; %1 is a moment such as &quot;5 minutes ago&quot;</extracomment>
+        <translation>Last synced: %1</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialogs</name>
+    <message>
+        <source>Dropshade %1 is available. You have %2.</source>
+        <comment>Update available: %1 is the new version, %2 the installed one</comment>
+        <translation>Dropshade %1 is available. You have %2.</translation>
+    </message>
+    <message>
+        <source>A new version of Dropshade is available</source>
+        <comment>Update available title</comment>
+        <translation>A new version of Dropshade is available</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <comment>Update available button</comment>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Skip This Version</source>
+        <comment>Update available button</comment>
+        <translation>Skip This Version</translation>
+    </message>
+    <message>
+        <source>Open Download Page</source>
+        <comment>Update available button</comment>
+        <translation>Open Download Page</translation>
+    </message>
+    <message>
+        <source>You’re up to date</source>
+        <comment>Update check: no newer version title</comment>
+        <translation>You’re up to date</translation>
+    </message>
+    <message>
+        <source>Dropshade %1 is the newest version available.</source>
+        <comment>Update check: no newer version; %1 is the installed one</comment>
+        <translation>Dropshade %1 is the newest version available.</translation>
+    </message>
+    <message>
+        <source>The update server could not be reached. Check the connection and try again.</source>
+        <comment>Update check failed</comment>
+        <translation>The update server could not be reached. Check the connection and try again.</translation>
+    </message>
+    <message>
+        <source>The update server has no list of versions to give at the moment.</source>
+        <comment>Update check failed</comment>
+        <translation>The update server has no list of versions to give at the moment.</translation>
+    </message>
+    <message>
+        <source>The update server took too long to answer.</source>
+        <comment>Update check failed</comment>
+        <translation>The update server took too long to answer.</translation>
+    </message>
+    <message>
+        <source>The update server pointed to an address that is not safe.</source>
+        <comment>Update check failed</comment>
+        <translation>The update server pointed to an address that is not safe.</translation>
+    </message>
+    <message>
+        <source>The answer of the update server could not be understood.</source>
+        <comment>Update check failed</comment>
+        <translation>The answer of the update server could not be understood.</translation>
+    </message>
+    <message>
+        <source>Could not check for updates</source>
+        <comment>Update check failed title</comment>
+        <translation>Could not check for updates</translation>
+    </message>
+    <message>
+        <source>No browser could be opened</source>
+        <comment>Update download page title</comment>
+        <translation>No browser could be opened</translation>
+    </message>
+    <message>
+        <source>The new version is at this address:
+%1</source>
+        <comment>Update download page; %1 is a web address</comment>
+        <translation>The new version is at this address:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>WholeFile</name>
+    <message>
+        <source>“%1” is not a file.</source>
+        <comment>%1 is a file name</comment>
+        <translation>“%1” is not a file.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be opened. %2</source>
+        <comment>%1 is a file name, %2 the reason</comment>
+        <translation>“%1” could not be opened. %2</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read. %2</source>
+        <comment>%1 is a file name, %2 the reason</comment>
+        <translation>“%1” could not be read. %2</translation>
+    </message>
+    <message>
+        <source>“%1” is too large for a palette.</source>
+        <comment>%1 is a file name</comment>
+        <translation>“%1” is too large for a palette.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be saved. %2</source>
+        <comment>%1 is a file name, %2 the reason</comment>
+        <translation>“%1” could not be saved. %2</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::AboutWindowController</name>
+    <message>
+        <source>About</source>
+        <comment>About window title</comment>
+        <extracomment>About window title</extracomment>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Visit Website</source>
+        <comment>About window button</comment>
+        <extracomment>About window button</extracomment>
+        <translation>Visit Website</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::AddScaleWidget</name>
+    <message>
+        <source>Add Scale</source>
+        <extracomment>Button in a palette without scales</extracomment>
+        <translation>Add Scale</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::AlertWindow</name>
+    <message>
+        <source>OK</source>
+        <comment>Button that acknowledges an alert</comment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::AlphaSlider</name>
+    <message>
+        <source>Opacity</source>
+        <comment>Color selector</comment>
+        <extracomment>Name of the alpha slider for screen readers</extracomment>
+        <translation>Opacity</translation>
+    </message>
+    <message>
+        <source>%1 percent</source>
+        <comment>Opacity value</comment>
+        <extracomment>Value of the alpha slider for screen readers; %1 is a whole number</extracomment>
+        <translation>%1 percent</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::AppDelegate</name>
+    <message>
+        <source>Dropshade has no icon on this desktop</source>
+        <extracomment>Title of a message on a desktop with no place for the program&apos;s icon</extracomment>
+        <translation>Dropshade has no icon on this desktop</translation>
+    </message>
+    <message>
+        <source>This desktop has no status area. Dropshade is running: start it once more to open its menu, or bind keys of your own to its actions in the settings of the desktop.</source>
+        <extracomment>The message; &quot;it&quot; is the program</extracomment>
+        <translation>This desktop has no status area. Dropshade is running: start it once more to open its menu, or bind keys of your own to its actions in the settings of the desktop.</translation>
+    </message>
+    <message>
+        <source>New Palette from File</source>
+        <comment>Title of the panel that asks for a palette file</comment>
+        <translation>New Palette from File</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <comment>Kind of file in a panel</comment>
+        <translation>Palettes</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t import palette</source>
+        <comment>Import error title</comment>
+        <translation>Couldn&apos;t import palette</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::BackgroundCheck</name>
+    <message>
+        <source>A part of Dropshade that sync needs is missing.</source>
+        <extracomment>The part of the program that goes online isn&apos;t installed.</extracomment>
+        <translation>A part of Dropshade that sync needs is missing.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::EtcdClient</name>
+    <message>
+        <source>The server doesn&apos;t answer as etcd does.</source>
+        <translation>The server doesn&apos;t answer as etcd does.</translation>
+    </message>
+    <message>
+        <source>“%1” isn&apos;t the address of a server. One looks like https://host:2379.</source>
+        <extracomment>%1 is what the user entered.</extracomment>
+        <translation>“%1” isn&apos;t the address of a server. One looks like https://host:2379.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s address must begin with https, or others could read the password on its way.</source>
+        <translation>The server&apos;s address must begin with https, or others could read the password on its way.</translation>
+    </message>
+    <message>
+        <source>The server&apos;s certificate isn&apos;t trusted: %1</source>
+        <extracomment>%1 is the reason.</extracomment>
+        <translation>The server&apos;s certificate isn&apos;t trusted: %1</translation>
+    </message>
+    <message>
+        <source>The server doesn&apos;t answer.</source>
+        <translation>The server doesn&apos;t answer.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t be reached: %1</source>
+        <extracomment>%1 is the reason.</extracomment>
+        <translation>The server can&apos;t be reached: %1</translation>
+    </message>
+    <message>
+        <source>The value is too large for the server.</source>
+        <translation>The value is too large for the server.</translation>
+    </message>
+    <message>
+        <source>The server has no room left.</source>
+        <translation>The server has no room left.</translation>
+    </message>
+    <message>
+        <source>The server asks for a user name and a password.</source>
+        <translation>The server asks for a user name and a password.</translation>
+    </message>
+    <message>
+        <source>The server doesn&apos;t accept this user name and password.</source>
+        <translation>The server doesn&apos;t accept this user name and password.</translation>
+    </message>
+    <message>
+        <source>This user may not read or write these keys.</source>
+        <translation>This user may not read or write these keys.</translation>
+    </message>
+    <message>
+        <source>The server can&apos;t serve: %1</source>
+        <extracomment>%1 is the reason as the server gives it.</extracomment>
+        <translation>The server can&apos;t serve: %1</translation>
+    </message>
+    <message>
+        <source>The server has ended the connection.</source>
+        <translation>The server has ended the connection.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::FolderWorker</name>
+    <message>
+        <source>The sync folder %1 can&apos;t be made: %2</source>
+        <extracomment>%1 is a path, %2 the reason as the system gives it.</extracomment>
+        <translation>The sync folder %1 can&apos;t be made: %2</translation>
+    </message>
+    <message>
+        <source>The sync folder %1 can&apos;t be written: %2</source>
+        <extracomment>%1 is a path, %2 the reason as the system gives it.</extracomment>
+        <translation>The sync folder %1 can&apos;t be written: %2</translation>
+    </message>
+    <message>
+        <source>The sync folder %1 is missing.</source>
+        <extracomment>%1 is a path.</extracomment>
+        <translation>The sync folder %1 is missing.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::HueSlider</name>
+    <message>
+        <source>Hue</source>
+        <comment>Color selector</comment>
+        <extracomment>Name of the hue slider for screen readers</extracomment>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>%1 degrees</source>
+        <comment>Hue value</comment>
+        <extracomment>Value of the hue slider for screen readers; %1 is a whole number of degrees</extracomment>
+        <translation>%1 degrees</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ListActions</name>
+    <message>
+        <source>Control-click for options</source>
+        <extracomment>Status bar hint when hovering a palette or scale label</extracomment>
+        <translation>Right-click for options</translation>
+    </message>
+    <message>
+        <source>Palette options</source>
+        <extracomment>Tooltip of a button in the header of a palette</extracomment>
+        <translation>Palette options</translation>
+    </message>
+    <message>
+        <source>Add color</source>
+        <extracomment>Tooltip of the button behind the swatches of a scale</extracomment>
+        <translation>Add color</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::MenuBarIconPicker</name>
+    <message>
+        <source>Swatch</source>
+        <comment>Menu bar icon style</comment>
+        <extracomment>Menu bar icon style</extracomment>
+        <translation>Swatch</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <comment>Menu bar icon style</comment>
+        <extracomment>Menu bar icon style</extracomment>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <comment>Menu bar icon style</comment>
+        <extracomment>Menu bar icon style</extracomment>
+        <translation>Default</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::NamePopover</name>
+    <message>
+        <source>Done</source>
+        <extracomment>Default button of a popover</extracomment>
+        <translation>Done</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::NewPaletteFromImageModel</name>
+    <message>
+        <source>Unsupported image format.</source>
+        <extracomment>Shown where a file that was chosen, pasted or dropped is not an image.</extracomment>
+        <translation>Unsupported image format.</translation>
+    </message>
+    <message>
+        <source>No image on the clipboard.</source>
+        <extracomment>Shown after a paste.</extracomment>
+        <translation>No image on the clipboard.</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>The name of the one scale of a palette that was made from an image</extracomment>
+        <translation>Colors</translation>
+    </message>
+    <message>
+        <source>Untitled Palette</source>
+        <extracomment>The name of a palette that was made from an image and given no other</extracomment>
+        <translation>Untitled Palette</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t read this image.</source>
+        <extracomment>Shown where an image is one, but has no pixels to take colours from.</extracomment>
+        <translation>Couldn&apos;t read this image.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PaletteMenus</name>
+    <message>
+        <source>Create from scratch</source>
+        <extracomment>Menu item that creates a palette with a few swatches</extracomment>
+        <translation>Create from scratch</translation>
+    </message>
+    <message>
+        <source>Create from image…</source>
+        <extracomment>Menu item that creates a palette</extracomment>
+        <translation>Create from image…</translation>
+    </message>
+    <message>
+        <source>Create from file… (.ase, .clr, .json)</source>
+        <extracomment>Menu item that creates a palette</extracomment>
+        <translation>Create from file… (.ase, .clr, .json)</translation>
+    </message>
+    <message>
+        <source>Create from preset…</source>
+        <extracomment>Menu item that creates a palette</extracomment>
+        <translation>Create from preset…</translation>
+    </message>
+    <message>
+        <source>Rename Palette</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Rename Palette</translation>
+    </message>
+    <message>
+        <source>Duplicate Palette</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Duplicate Palette</translation>
+    </message>
+    <message>
+        <source>Export Palette</source>
+        <extracomment>Title of a submenu with file formats</extracomment>
+        <translation>Export Palette</translation>
+    </message>
+    <message>
+        <source>Add Scale</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Add Scale</translation>
+    </message>
+    <message>
+        <source>Delete Palette</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Delete Palette</translation>
+    </message>
+    <message>
+        <source>Rename Scale</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Rename Scale</translation>
+    </message>
+    <message>
+        <source>Duplicate Scale</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Duplicate Scale</translation>
+    </message>
+    <message>
+        <source>Sort Light to Dark</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Sort Light to Dark</translation>
+    </message>
+    <message>
+        <source>Sort Dark to Light</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Sort Dark to Light</translation>
+    </message>
+    <message>
+        <source>Delete Scale</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Delete Scale</translation>
+    </message>
+    <message>
+        <source>Remove from Favorites</source>
+        <extracomment>Menu item of a swatch that is a favorite</extracomment>
+        <translation>Remove from Favorites</translation>
+    </message>
+    <message>
+        <source>Add to Favorites</source>
+        <extracomment>Menu item of a swatch that is no favorite</extracomment>
+        <translation>Add to Favorites</translation>
+    </message>
+    <message>
+        <source>Edit Color</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Edit Color</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Copy As</source>
+        <extracomment>Title of a submenu with color formats</extracomment>
+        <translation>Copy As</translation>
+    </message>
+    <message>
+        <source>Delete Color</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Delete Color</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PaletteMoves</name>
+    <message>
+        <source>%1 moved to %2 of %3</source>
+        <extracomment>For screen readers: %1 is a name, %2 its new place, %3 how many there are</extracomment>
+        <translation>%1 moved to %2 of %3</translation>
+    </message>
+    <message>
+        <source>%1 moved to %2, place %3</source>
+        <extracomment>For screen readers: %1 is a color, %2 the scale that it is in now, %3 its place there</extracomment>
+        <translation>%1 moved to %2, place %3</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PalettesEmptyState</name>
+    <message>
+        <source>No palettes yet</source>
+        <extracomment>Title in the palettes window without palettes</extracomment>
+        <translation>No palettes yet</translation>
+    </message>
+    <message>
+        <source>Organize your colors into palettes for quick access. Start from a built-in preset or create a blank palette to fill in yourself.</source>
+        <extracomment>Text in the palettes window without palettes</extracomment>
+        <translation>Organize your colors into palettes for quick access. Start from a built-in preset or create a blank palette to fill in yourself.</translation>
+    </message>
+    <message>
+        <source>Create palette from preset…</source>
+        <extracomment>Button in the palettes window without palettes</extracomment>
+        <translation>Create palette from preset…</translation>
+    </message>
+    <message>
+        <source>Create palette from scratch</source>
+        <extracomment>Button in the palettes window without palettes</extracomment>
+        <translation>Create palette from scratch</translation>
+    </message>
+    <message>
+        <source>Tip: Press %1 from anywhere to open Palettes.</source>
+        <extracomment>%1 is a keyboard shortcut</extracomment>
+        <translation>Tip: Press %1 from anywhere to open Palettes.</translation>
+    </message>
+    <message>
+        <source>Tip: Set a hotkey in Settings to open Palettes from anywhere.</source>
+        <translation>Tip: Set a hotkey in Settings to open Palettes from anywhere.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PalettesModel</name>
+    <message>
+        <source>New Palette</source>
+        <extracomment>Name of a palette that the user has just created</extracomment>
+        <translation>New Palette</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <extracomment>Name of a scale that the user has just created</extracomment>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Delete “%1”?</source>
+        <extracomment>Title of an alert; %1 is a palette&apos;s or a scale&apos;s name</extracomment>
+        <translation>Delete “%1”?</translation>
+    </message>
+    <message>
+        <source>This palette will be permanently removed.</source>
+        <extracomment>Text of the alert before a palette is deleted</extracomment>
+        <translation>This palette will be permanently removed.</translation>
+    </message>
+    <message>
+        <source>This scale and its colors will be permanently removed.</source>
+        <extracomment>Text of the alert before a scale is deleted</extracomment>
+        <translation>This scale and its colors will be permanently removed.</translation>
+    </message>
+    <message>
+        <source>Delete this color?</source>
+        <extracomment>Title of the alert before a color is deleted</extracomment>
+        <translation>Delete this color?</translation>
+    </message>
+    <message>
+        <source>This swatch will be permanently removed.</source>
+        <extracomment>Text of the alert before a color is deleted</extracomment>
+        <translation>This swatch will be permanently removed.</translation>
+    </message>
+    <message>
+        <source>Palette Name</source>
+        <extracomment>Title of the popover that renames a palette</extracomment>
+        <translation>Palette Name</translation>
+    </message>
+    <message>
+        <source>Scale Name</source>
+        <extracomment>Title of the popover that renames a scale</extracomment>
+        <translation>Scale Name</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PalettesTopBar</name>
+    <message>
+        <source>Swatch size</source>
+        <extracomment>Tooltip of a slider in the palettes window</extracomment>
+        <translation>Swatch size</translation>
+    </message>
+    <message>
+        <source>Close dialog after copying</source>
+        <extracomment>Tooltip of a switch in the palettes window</extracomment>
+        <translation>Close dialog after copying</translation>
+    </message>
+    <message>
+        <source>New Palette</source>
+        <extracomment>Button in the palettes window</extracomment>
+        <translation>New Palette</translation>
+    </message>
+    <message>
+        <source>Adjust the size of the color swatches.</source>
+        <extracomment>Status bar hint while the pointer is over the slider</extracomment>
+        <translation>Adjust the size of the color swatches.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PalettesWindow</name>
+    <message>
+        <source>Palettes</source>
+        <extracomment>Title of a window
+----------
+Name of the list for screen readers</extracomment>
+        <translation>Palettes</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Buttons of an alert</extracomment>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PresetPickerSheet</name>
+    <message>
+        <source>Name</source>
+        <extracomment>Label of the field with the new palette&apos;s name</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>New palette</source>
+        <extracomment>Placeholder of the field with the new palette&apos;s name</extracomment>
+        <translation>New palette</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <extracomment>Label of the list of presets</extracomment>
+        <translation>Preset</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <extracomment>Default button of the sheet with the presets</extracomment>
+        <translation>Add</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::RecorderCocoa</name>
+    <message>
+        <source>Clear the Shortcut of %1</source>
+        <extracomment>Button of a shortcut recorder; %1 is what the shortcut is for</extracomment>
+        <translation>Clear the Shortcut of %1</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ReplicatedKeyValueStore</name>
+    <message>
+        <source>The disk is full or can&apos;t be written.</source>
+        <extracomment>The changes of this machine that wait to be sent can&apos;t be kept on the disk.</extracomment>
+        <translation>The disk is full or can&apos;t be written.</translation>
+    </message>
+    <message>
+        <source>A palette is too large for the server and stays on this machine.</source>
+        <extracomment>The server takes only values up to a size of its own.</extracomment>
+        <translation>A palette is too large for the server and stays on this machine.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::Saturation</name>
+    <message>
+        <source>Saturation and brightness</source>
+        <comment>Color selector</comment>
+        <extracomment>Name of the square that selects saturation and brightness, for screen readers</extracomment>
+        <translation>Saturation and brightness</translation>
+    </message>
+    <message>
+        <source>saturation %1 percent, brightness %2 percent</source>
+        <comment>Saturation square value</comment>
+        <extracomment>Value of the square for screen readers; %1 and %2 are whole numbers</extracomment>
+        <translation>saturation %1 percent, brightness %2 percent</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::SettingsRootView</name>
+    <message>
+        <source>General</source>
+        <extracomment>Section of the settings</extracomment>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Menu bar icon</source>
+        <extracomment>Setting</extracomment>
+        <translation>Panel icon</translation>
+    </message>
+    <message>
+        <source>Recent colors in menu</source>
+        <extracomment>Setting; a number</extracomment>
+        <translation>Recent colors in menu</translation>
+    </message>
+    <message>
+        <source>Copy sound</source>
+        <extracomment>Setting</extracomment>
+        <translation>Copy sound</translation>
+    </message>
+    <message>
+        <source>Start automatically on login</source>
+        <extracomment>Setting</extracomment>
+        <translation>Start automatically on login</translation>
+    </message>
+    <message>
+        <source>Automatically check for updates</source>
+        <extracomment>Setting</extracomment>
+        <translation>Automatically check for updates</translation>
+    </message>
+    <message>
+        <source>Sync via iCloud</source>
+        <extracomment>Setting</extracomment>
+        <translation>Sync with other computers</translation>
+    </message>
+    <message>
+        <source>Keep palettes and preferences in sync across your Macs.</source>
+        <extracomment>Setting: what it does</extracomment>
+        <translation>Keep palettes and preferences in sync across your computers.</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <extracomment>Section of the settings
+----------
+Setting</extracomment>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Colors will be copied to the clipboard in this format</source>
+        <extracomment>Setting: what the format is for</extracomment>
+        <translation>Colors will be copied to the clipboard in this format</translation>
+    </message>
+    <message>
+        <source>Use lowercase for copied colors</source>
+        <extracomment>Setting</extracomment>
+        <translation>Use lowercase for copied colors</translation>
+    </message>
+    <message>
+        <source>Use # prefix for hex codes</source>
+        <extracomment>Setting</extracomment>
+        <translation>Use # prefix for hex codes</translation>
+    </message>
+    <message>
+        <source>Decimal precision</source>
+        <extracomment>Setting: how many digits behind the point</extracomment>
+        <translation>Decimal precision</translation>
+    </message>
+    <message>
+        <source>Hotkeys</source>
+        <extracomment>Section of the settings</extracomment>
+        <translation>Hotkeys</translation>
+    </message>
+    <message>
+        <source>Quick Pick</source>
+        <extracomment>Setting: the shortcut of a command</extracomment>
+        <translation>Quick Pick</translation>
+    </message>
+    <message>
+        <source>Color Picker</source>
+        <extracomment>Setting: the shortcut of a window</extracomment>
+        <translation>Color Picker</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <extracomment>Setting: the shortcut of a window</extracomment>
+        <translation>Palettes</translation>
+    </message>
+    <message>
+        <source>Check Contrast</source>
+        <extracomment>Setting: the shortcut of a window</extracomment>
+        <translation>Check Contrast</translation>
+    </message>
+    <message>
+        <source>Activate from anywhere with the press of a button</source>
+        <extracomment>Footer of the section of shortcuts</extracomment>
+        <translation>Activate from anywhere with the press of a button</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::SettingsViewController</name>
+    <message>
+        <source>Dropshade Settings</source>
+        <extracomment>Title of the settings window</extracomment>
+        <translation>Dropshade Settings</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::StatusMenu</name>
+    <message>
+        <source>Control-click for quick pick</source>
+        <extracomment>Menu bar hint</extracomment>
+        <translation>Control-click for quick pick</translation>
+    </message>
+    <message>
+        <source>Quick Pick</source>
+        <extracomment>Menu item to open screen color sampler</extracomment>
+        <translation>Quick Pick</translation>
+    </message>
+    <message>
+        <source>Color Picker…</source>
+        <extracomment>Menu item to open color picker window</extracomment>
+        <translation>Color Picker…</translation>
+    </message>
+    <message>
+        <source>Palettes…</source>
+        <extracomment>Menu item to open palettes window</extracomment>
+        <translation>Palettes…</translation>
+    </message>
+    <message>
+        <source>Check Contrast…</source>
+        <extracomment>Menu item to open contrast checker</extracomment>
+        <translation>Check Contrast…</translation>
+    </message>
+    <message>
+        <source>New Palette from Image…</source>
+        <extracomment>Menu item to create palette from image</extracomment>
+        <translation>New Palette from Image…</translation>
+    </message>
+    <message>
+        <source>New Palette from File… (.ase, .clr, .json)</source>
+        <extracomment>Menu item to create palette from file</extracomment>
+        <translation>New Palette from File… (.ase, .clr, .json)</translation>
+    </message>
+    <message>
+        <source>New Palette from Preset…</source>
+        <extracomment>Menu item to create palette from a built-in preset</extracomment>
+        <translation>New Palette from Preset…</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <extracomment>Menu item to open settings</extracomment>
+        <translation>Settings…</translation>
+    </message>
+    <message>
+        <source>About…</source>
+        <extracomment>Menu item to open about window</extracomment>
+        <translation>About…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <extracomment>Menu item to check for app updates</extracomment>
+        <translation>Check for Updates…</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <extracomment>Menu item to quit app</extracomment>
+        <translation>Quit</translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <extracomment>Submenu title</extracomment>
+        <translation>Favorites</translation>
+    </message>
+    <message>
+        <source>Recent Colors</source>
+        <extracomment>Submenu title</extracomment>
+        <translation>Recent Colors</translation>
+    </message>
+    <message>
+        <source>Clear Recent Colors</source>
+        <extracomment>Menu item to clear color history</extracomment>
+        <translation>Clear Recent Colors</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::SwatchPopover</name>
+    <message>
+        <source>Add</source>
+        <extracomment>Default button of the popover that adds a color</extracomment>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <extracomment>Default button of the popover that edits a color</extracomment>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <extracomment>Label of the field with a color&apos;s value</extracomment>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t parse this color</source>
+        <extracomment>Tooltip of the sign in a field whose text is no color</extracomment>
+        <translation>Couldn&apos;t parse this color</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>Label of the field with a color&apos;s name</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>e.g. blue-500</source>
+        <extracomment>Placeholder of the field with a color&apos;s name</extracomment>
+        <translation>e.g. blue-500</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::SyncAccountView</name>
+    <message>
+        <source>Keep data in</source>
+        <extracomment>Sync settings: the choice of where the data is kept</extracomment>
+        <translation>Keep data in</translation>
+    </message>
+    <message>
+        <source>A folder</source>
+        <extracomment>Sync settings: where the data is kept</extracomment>
+        <translation>A folder</translation>
+    </message>
+    <message>
+        <source>An etcd server</source>
+        <extracomment>Sync settings: where the data is kept</extracomment>
+        <translation>An etcd server</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <extracomment>Sync settings: the path of a folder</extracomment>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>On this computer only</source>
+        <extracomment>Sync settings: what an empty path of a folder stands for</extracomment>
+        <translation>On this computer only</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <extracomment>Sync settings: button that opens a panel</extracomment>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>Choose Folder</source>
+        <extracomment>Sync settings: a button&apos;s name for screen readers</extracomment>
+        <translation>Choose Folder</translation>
+    </message>
+    <message>
+        <source>Choose a Folder for Sync</source>
+        <extracomment>Title of the panel that asks for a folder</extracomment>
+        <translation>Choose a Folder for Sync</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <extracomment>Sync settings: the address of a server</extracomment>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <extracomment>Sync settings: the user of a server</extracomment>
+        <translation>User</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <extracomment>Sync settings: the password of a server</extracomment>
+        <translation>Password</translation>
+    </message>
+    <message>
+        <source>CA certificate</source>
+        <extracomment>Sync settings: the path of a certificate that a server is trusted by</extracomment>
+        <translation>CA certificate</translation>
+    </message>
+    <message>
+        <source>The system’s</source>
+        <extracomment>Sync settings: what an empty path of a certificate stands for</extracomment>
+        <translation>The system’s</translation>
+    </message>
+    <message>
+        <source>Choose CA Certificate</source>
+        <extracomment>Sync settings: a button&apos;s name for screen readers</extracomment>
+        <translation>Choose CA Certificate</translation>
+    </message>
+    <message>
+        <source>Choose a CA Certificate</source>
+        <extracomment>Title of the panel that asks for a certificate</extracomment>
+        <translation>Choose a CA Certificate</translation>
+    </message>
+    <message>
+        <source>Certificates</source>
+        <extracomment>Kind of file in a panel</extracomment>
+        <translation>Certificates</translation>
+    </message>
+    <message>
+        <source>Test connection</source>
+        <extracomment>Sync settings: button</extracomment>
+        <translation>Test connection</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::TextField</name>
+    <message>
+        <source>Cut</source>
+        <comment>Edit menu item</comment>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <comment>Edit menu item</comment>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <comment>Edit menu item</comment>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <comment>Edit menu item</comment>
+        <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::UserPaletteStore</name>
+    <message>
+        <source>Imported Palette</source>
+        <comment>Default name for an imported palette</comment>
+        <translation>Imported Palette</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <comment>Duplicate palette name suffix</comment>
+        <translation>copy</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <comment>Default name for new palette scale</comment>
+        <translation>Untitled</translation>
+    </message>
+</context>
+</TS>
