@@ -118,7 +118,7 @@ double turnUntil(const QWidget& sheet, int colors) {
     const auto shown = [&sheet] {
         int count = 0;
         for (const QWidget* child : sheet.findChildren<QWidget*>())
-            count += child->inherits("dropshade::PreviewSwatch") && child->isVisible() ? 1 : 0;
+            count += child->inherits("dropshade::StripSwatch") && child->isVisible() ? 1 : 0;
         return count;
     };
     while (shown() != colors) {

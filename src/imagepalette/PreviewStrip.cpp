@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "imagepalette/PreviewStrip.h"
 
-#include "imagepalette/PreviewSwatch.h"
+#include "imagepalette/StripSwatch.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
 #include "widgets/TypeScale.h"
@@ -37,7 +37,7 @@ PreviewStrip::PreviewStrip(const Look& look, std::function<QString(const Quantiz
 }
 
 void PreviewStrip::addSwatch() {
-    auto* swatch = new PreviewSwatch(m_look, m_nameOf, this);
+    auto* swatch = new StripSwatch(m_look, m_nameOf, this);
     connect(swatch, &QAbstractButton::clicked, this,
             [this, swatch] { Q_EMIT picked(swatch->color()); });
     m_swatches.append(swatch);
@@ -50,7 +50,7 @@ void PreviewStrip::setColors(const std::vector<QuantizedColor>& colors) {
         addSwatch();
     bool isReachable = false;
     for (int index = 0; index < m_swatches.size(); ++index) {
-        PreviewSwatch* swatch = m_swatches[index];
+        StripSwatch* swatch = m_swatches[index];
         if (index < m_count)
             swatch->setColor(colors[static_cast<std::size_t>(index)]);
         else
@@ -102,7 +102,7 @@ void PreviewStrip::resizeEvent(QResizeEvent* event) {
 }
 
 void PreviewStrip::focusSwatch(int index) {
-    for (PreviewSwatch* swatch : std::as_const(m_swatches))
+    for (StripSwatch* swatch : std::as_const(m_swatches))
         swatch->setFocusPolicy(Qt::NoFocus);
     m_swatches[index]->setFocusPolicy(Qt::TabFocus);
     m_swatches[index]->setFocus(Qt::TabFocusReason);
@@ -151,7 +151,7 @@ void PreviewStrip::paintEvent(QPaintEvent*) {
     }
     const double reach = ringGap + metrics::lineSelected;
     for (int index = 0; index < m_count; ++index) {
-        const PreviewSwatch* swatch = m_swatches[index];
+        const StripSwatch* swatch = m_swatches[index];
         if (swatch->ringOpacity() <= 0.0 || swatch->hasFocus())
             continue;
         QColor ink = theme.textPrimary;

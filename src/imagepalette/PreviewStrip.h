@@ -12,7 +12,7 @@
 
 namespace dropshade {
 
-class PreviewSwatch;
+class StripSwatch;
 
 /// The colours of the palette to be, in one row, or in two from thirteen on. A click picks one;
 /// Tab reaches the strip and arrow keys move within it.
@@ -48,7 +48,7 @@ private:
     const Look& m_look;
     std::function<QString(const QuantizedColor&)> m_nameOf;
     /// Some more than are shown: the first `m_count` are.
-    QList<PreviewSwatch*> m_swatches;
+    QList<StripSwatch*> m_swatches;
     int m_count = 0;
 };
 

@@ -3,8 +3,8 @@
 #include "imagepalette/NewPaletteFromImageView.h"
 
 #include "imagepalette/NewPaletteFromImageWindowController.h"
-#include "imagepalette/PreviewSwatch.h"
 #include "imagepalette/SampleFiles.h"
+#include "imagepalette/StripSwatch.h"
 #include "support/FakeAppearance.h"
 #include "support/FakeFilePanels.h"
 #include "support/FakePasteboard.h"
@@ -48,9 +48,9 @@ protected:
         ADD_FAILURE() << name.toStdString();
         return nullptr;
     }
-    QList<PreviewSwatch*> shownSwatches() {
-        QList<PreviewSwatch*> shown;
-        for (PreviewSwatch* swatch : sheet().findChildren<PreviewSwatch*>()) {
+    QList<StripSwatch*> shownSwatches() {
+        QList<StripSwatch*> shown;
+        for (StripSwatch* swatch : sheet().findChildren<StripSwatch*>()) {
             if (swatch->isVisible())
                 shown.append(swatch);
         }
@@ -212,7 +212,7 @@ TEST_F(NewPaletteFromImageSheet, AClickOnAColorCopiesItAndItsToolTipIsInTheUsers
     present(LoadedImage{red, red.size()});
     finish();
     ASSERT_EQ(shownSwatches().size(), 1);
-    PreviewSwatch* swatch = shownSwatches().first();
+    StripSwatch* swatch = shownSwatches().first();
     EXPECT_EQ(swatch->accessibleName(), QStringLiteral("rgb(255 0 0)"));
     QHoverEvent hover(QEvent::HoverEnter, QPointF(2, 2), QPointF(2, 2), QPointF(-1, -1));
     QCoreApplication::sendEvent(swatch, &hover);
@@ -228,7 +228,7 @@ TEST_F(NewPaletteFromImageSheet, ArrowKeysMoveAmongTheColorsAndTabReachesThemOnc
     finish();
     const auto swatches = shownSwatches();
     int stops = 0;
-    for (const PreviewSwatch* swatch : swatches)
+    for (const StripSwatch* swatch : swatches)
         stops += swatch->focusPolicy() != Qt::NoFocus ? 1 : 0;
     EXPECT_EQ(stops, 1);
     swatches.first()->setFocus();

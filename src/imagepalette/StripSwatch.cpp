@@ -1,6 +1,6 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
-#include "imagepalette/PreviewSwatch.h"
+#include "imagepalette/StripSwatch.h"
 
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
@@ -9,14 +9,14 @@
 
 namespace dropshade {
 
-PreviewSwatch::PreviewSwatch(const Look& look, const NameOf& nameOf, QWidget* parent)
+StripSwatch::StripSwatch(const Look& look, const NameOf& nameOf, QWidget* parent)
     : Button(look, parent), m_nameOf(nameOf) {
     setCornerRadius(metrics::radiusCell);
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
 }
 
-void PreviewSwatch::setColor(const QuantizedColor& color) {
+void StripSwatch::setColor(const QuantizedColor& color) {
     if (color == m_color && !accessibleName().isEmpty())
         return;
     m_color = color;
@@ -25,14 +25,14 @@ void PreviewSwatch::setColor(const QuantizedColor& color) {
     update();
 }
 
-bool PreviewSwatch::event(QEvent* event) {
+bool StripSwatch::event(QEvent* event) {
     // The format may have changed since the colour came.
     if (event->type() == QEvent::HoverEnter || event->type() == QEvent::HoverMove)
         setToolTip(m_nameOf(m_color));
     return Button::event(event);
 }
 
-void PreviewSwatch::keyPressEvent(QKeyEvent* event) {
+void StripSwatch::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
@@ -46,7 +46,7 @@ void PreviewSwatch::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void PreviewSwatch::paint(QPainter& painter) {
+void StripSwatch::paint(QPainter& painter) {
     // The ring lies outside, on the strip; each step of its appearance passes here.
     parentWidget()->update();
     QRectF area = rect();

@@ -10,13 +10,13 @@
 namespace dropshade {
 
 /// One colour of the preview.
-class PreviewSwatch : public Button {
+class StripSwatch : public Button {
     Q_OBJECT
 
 public:
     using NameOf = std::function<QString(const QuantizedColor&)>;
 
-    PreviewSwatch(const Look& look, const NameOf& nameOf, QWidget* parent);
+    StripSwatch(const Look& look, const NameOf& nameOf, QWidget* parent);
 
     void setColor(const QuantizedColor& color);
     [[nodiscard]] const QuantizedColor& color() const { return m_color; }
