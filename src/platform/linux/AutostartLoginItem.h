@@ -10,7 +10,7 @@
 namespace dropshade {
 
 /// An entry in the folder of what the desktop starts at login, by the Desktop Application
-/// Autostart Specification 0.5.
+/// Autostart standard 0.5.
 class AutostartLoginItem : public LoginItem {
 public:
     struct Surroundings {

@@ -11,7 +11,7 @@
 
 namespace dropshade {
 
-/// The main group of a file as the Desktop Entry Specification 1.5 has it. Lines that are no entry
+/// The main group of a file as the Desktop Entry standard 1.5 has it. Lines that are no entry
 /// count as not there; of two entries with one key the first counts, and translated ones are left
 /// out.
 class DesktopEntry {
