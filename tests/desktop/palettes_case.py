@@ -36,7 +36,6 @@ def palette(name, *scales):
 class PalettesCase(DropshadeCase):
     """`self.palettes()` is what the program starts with; the first palette is open."""
 
-    WINDOW = (560, 620)
     SETTINGS = {}
 
     @classmethod
