@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """The convert and the contrast window, with real keys and clicks."""
 
+import subprocess
 import unittest
 
 from window_case import GROUND, WindowCase, wait_until
@@ -132,15 +133,10 @@ class ConvertWindow(WindowCase):
     def test_the_frame_is_remembered_across_a_close_and_ctrl_w_closes(self):
         self.open()
         left, top, width, height = self.area(CONVERT)
-        self.desktop.key_down("Alt_L")
-        self.desktop.move(left + 200, top + 560)
-        self.desktop.press()
-        wait_until(self.desktop.keyboard_is_grabbed, "the window manager's hand")
-        for step in range(1, 11):
-            self.desktop.move(left + 200 - 10 * step, top + 560 - 3 * step)
-            self.settle()
-        self.desktop.release()
-        self.desktop.key_up("Alt_L")
+        window = str(self.window(CONVERT).id)
+        subprocess.run(["xdotool", "windowmove", window, "120", "90"], check=True,
+                       env=self.desktop.environment)
+        wait_until(lambda: self.area(CONVERT)[:2] != (left, top), "the window to move")
         self.settle()
         moved = self.area(CONVERT)
         self.assertNotEqual(moved[:2], (left, top))
