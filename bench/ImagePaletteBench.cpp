@@ -7,6 +7,7 @@
 
 #include "imagepalette/NewPaletteFromImageView.h"
 #include "imagepalette/NewPaletteFromImageWindowController.h"
+#include "platform/linux/LargeMemory.h"
 #include "platform/linux/PoolBackgroundQueue.h"
 #include "platform/linux/QtScheduler.h"
 #include "support/FakeAppearance.h"
@@ -187,6 +188,7 @@ bool report(const char* what, double value, double budget, const char* unit) {
 } // namespace
 
 int main(int argc, char** argv) {
+    giveLargeMemoryBack();
     QApplication application(argc, argv);
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     QTemporaryDir folder;
