@@ -64,7 +64,7 @@ private:
     void fit() {
         const int most = screen()->availableGeometry().height() - screenReserve;
         const int wide = std::max(windowWidth, m_view->minimumSizeHint().width());
-        const int high = std::max(m_view->heightForWidth(wide), m_view->minimumSizeHint().height());
+        const int high = m_view->heightForWidth(wide);
         setFixedSize(wide, std::min(high, most));
     }
 
