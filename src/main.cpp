@@ -15,7 +15,6 @@ int main(int argc, char** argv) {
     QuitSignals quitSignals;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("dropshade"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Dropshade"));
     QApplication::setApplicationVersion(QStringLiteral(DROPSHADE_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("org.dropshade.Dropshade"));
     // The program is its status item: it goes on without a window.

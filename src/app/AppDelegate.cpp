@@ -4,6 +4,8 @@
 
 #include "app/LegacyPreferences.h"
 #include "app/SettingsReaders.h"
+#include "contrast/ContrastWindowController.h"
+#include "convert/ColorPickerWindowController.h"
 #include "widgets/Theme.h"
 #include "widgets/TintedIcon.h"
 

@@ -7,6 +7,7 @@
 #include "app/AppSettings.h"
 #include "app/ColorCopier.h"
 #include "app/ColorPickerService.h"
+#include "app/ColorWindowSurroundings.h"
 #include "app/SettingsViewController.h"
 #include "app/SoundService.h"
 #include "app/StatusMenu.h"
@@ -28,6 +29,9 @@
 #include <optional>
 
 namespace dropshade {
+
+class ColorPickerWindowController;
+class ContrastWindowController;
 
 /// The program's one controller: it owns a service and a window controller of each kind, and
 /// carries the main flow, from a sample on the screen to its text on the clipboard.
@@ -121,6 +125,7 @@ private:
     void explainMissingStatusArea();
     void loadPalettes();
     void setSyncing(bool enabled);
+    [[nodiscard]] ColorWindowSurroundings colorWindowSurroundings();
     void finishPick(const std::optional<SRGBColor>& color);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
     PalettesWindowController& palettesController();
@@ -148,6 +153,8 @@ private:
     ColorCopier m_copier;
     StatusMenu m_statusMenu;
     PaletteExporter m_paletteExporter;
+    std::unique_ptr<ColorPickerWindowController> m_colorPickerController;
+    std::unique_ptr<ContrastWindowController> m_contrastController;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
     std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<PalettesWindowController> m_palettesController;

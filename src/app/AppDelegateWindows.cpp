@@ -3,6 +3,10 @@
 #include "app/AppDelegate.h"
 
 #include "KeyboardShortcuts/ShortcutDescription.h"
+#include "contrast/ContrastWindowController.h"
+#include "convert/ColorPickerWindowController.h"
+
+#include <QApplication>
 
 #include <QDesktopServices>
 
@@ -10,7 +14,22 @@ namespace dropshade {
 
 // Every way to a window ends here: a row of the menu, a global shortcut, an action on the bus.
 
-void AppDelegate::openColorPicker() {}
+ColorWindowSurroundings AppDelegate::colorWindowSurroundings() {
+    return {look(),
+            *m_platform.defaults,
+            m_settings,
+            *m_platform.pasteboard,
+            *m_platform.scheduler,
+            m_colorPickerService,
+            m_copier};
+}
+
+void AppDelegate::openColorPicker() {
+    if (!m_colorPickerController)
+        m_colorPickerController =
+            std::make_unique<ColorPickerWindowController>(colorWindowSurroundings());
+    m_colorPickerController->show();
+}
 
 /// The window is built here and not after the launch: hidden, it would be most of the memory of a
 /// program that is its status item.
@@ -34,7 +53,12 @@ void AppDelegate::openPalettes() {
     palettesController().bringUp();
 }
 
-void AppDelegate::openContrast() {}
+void AppDelegate::openContrast() {
+    if (!m_contrastController)
+        m_contrastController = std::make_unique<ContrastWindowController>(
+            colorWindowSurroundings(), [] { QApplication::beep(); });
+    m_contrastController->show();
+}
 
 void AppDelegate::openNewPaletteFromImage() {
     openPalettes();

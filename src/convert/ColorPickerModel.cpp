@@ -79,8 +79,10 @@ void ColorPickerModel::copyRowColor(std::optional<ColorFormat> format) {
         return;
     const QString text = m_copier.copyAndRecord(*m_parsed, format);
     Q_EMIT didCopy(text, format);
-    if (m_settings.closeConvertDialogOnCopy() && closeAction)
-        closeAction();
+    // A copy, for to close is to unset it.
+    const auto close = closeAction;
+    if (m_settings.closeConvertDialogOnCopy() && close)
+        close();
 }
 
 } // namespace dropshade

@@ -62,6 +62,9 @@ void FloatingWindow::rememberFrame(UserDefaults& defaults, const QString& name, 
 void FloatingWindow::present() {
     if (isMinimized())
         setWindowState(windowState() & ~Qt::WindowMinimized);
+    // Window managers place a window that comes back as if it were new.
+    if (!isVisible() && m_hiddenAt)
+        move(*m_hiddenAt);
     show();
     raise();
     activateWindow();
@@ -71,6 +74,11 @@ void FloatingWindow::closeEvent(QCloseEvent* event) {
     storeFrame();
     event->accept();
     Q_EMIT closed();
+}
+
+void FloatingWindow::hideEvent(QHideEvent* event) {
+    m_hiddenAt = pos();
+    QWidget::hideEvent(event);
 }
 
 void FloatingWindow::moveEvent(QMoveEvent* event) {

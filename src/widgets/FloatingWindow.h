@@ -8,6 +8,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+
 namespace dropshade {
 
 /// A window of the program: it floats above others, remembers its frame, closes on Escape and on
@@ -33,6 +35,7 @@ protected:
     [[nodiscard]] const Look& look() const { return m_look; }
 
     void closeEvent(QCloseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -44,6 +47,7 @@ private:
     UserDefaults* m_defaults = nullptr;
     QString m_frameName;
     QTimer m_frameSettles;
+    std::optional<QPoint> m_hiddenAt;
 };
 
 } // namespace dropshade

@@ -125,6 +125,20 @@ void drawMenuRow(QPainter& painter, const QStyleOptionMenuItem& item, const QWid
     painter.restore();
 }
 
+void drawMenuScroller(QPainter& painter, const QStyleOption& option, const Theme& theme) {
+    const QRect strip = option.rect.adjusted(menuPadding, 0, -menuPadding, 0);
+    painter.fillRect(strip, theme.surfaceRaised);
+    const QPixmap chevron = iconPixmap(Icon::ChevronDown, theme.textSecondary, metrics::iconMenu,
+                                       painter.device()->devicePixelRatioF());
+    painter.save();
+    painter.translate(QRectF(strip).center());
+    if (!option.state.testFlag(QStyle::State_DownArrow))
+        painter.rotate(180.0);
+    const double half = metrics::iconMenu / 2.0;
+    painter.drawPixmap(QPointF(-half, -half), chevron);
+    painter.restore();
+}
+
 QSize menuRowSize(const QStyleOptionMenuItem& item, const QSize& contents) {
     if (item.menuItemType == QStyleOptionMenuItem::Separator)
         return {contents.width(), separatorHeight};

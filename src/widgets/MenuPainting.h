@@ -17,6 +17,9 @@ void drawMenuPanel(QPainter& painter, const QRect& panel, const Theme& theme);
 void drawMenuRow(QPainter& painter, const QStyleOptionMenuItem& item, const QWidget* menu,
                  const Theme& theme);
 
+/// The strip that stands for the rows beyond the end of a menu taller than the screen.
+void drawMenuScroller(QPainter& painter, const QStyleOption& option, const Theme& theme);
+
 /// The size of a row whose words take `contents`.
 [[nodiscard]] QSize menuRowSize(const QStyleOptionMenuItem& item, const QSize& contents);
 

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace dropshade {
 
@@ -38,9 +39,22 @@ QPoint popoverPosition(const QSize& size, const QRect& anchor, const QRect& keep
         if (room.contains(QRect(corner, size)))
             return corner;
     }
-    // Nowhere whole: then rather over what it changes than off the screen.
-    return {within(order[0].x(), size.width(), room.left(), room.right()),
-            within(order[0].y(), size.height(), room.top(), room.bottom())};
+    // Nowhere whole: on the screen all the same, where it covers least of what it changes.
+    const auto covered = [&](const QPoint& corner) {
+        const QRect shared = QRect(corner, size).intersected(keepClear);
+        return shared.width() * shared.height();
+    };
+    QPoint best;
+    int least = std::numeric_limits<int>::max();
+    for (const QPoint& corner : order) {
+        const QPoint inside(within(corner.x(), size.width(), room.left(), room.right()),
+                            within(corner.y(), size.height(), room.top(), room.bottom()));
+        if (covered(inside) < least) {
+            best = inside;
+            least = covered(inside);
+        }
+    }
+    return best;
 }
 
 Popover::Popover(const Look& look, QWidget& anchor)

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/RoundedMask.h"
 
-#include <QPainterPath>
-#include <QRegion>
+#include <QBitmap>
+#include <QPainter>
 #include <QWidget>
 
 namespace dropshade {
@@ -11,9 +11,14 @@ namespace dropshade {
 void maskWhereOpaque(QWidget& window, double radius) {
     if (window.testAttribute(Qt::WA_TranslucentBackground))
         return;
-    QPainterPath path;
-    path.addRoundedRect(window.rect(), radius, radius);
-    window.setMask(QRegion(path.toFillPolygon().toPolygon()));
+    QBitmap shape(window.size());
+    shape.fill(Qt::color0);
+    QPainter painter(&shape);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(shape.rect(), radius, radius);
+    painter.end();
+    window.setMask(shape);
 }
 
 } // namespace dropshade

@@ -50,13 +50,11 @@ private:
 };
 
 TextField::TextField(const Look& look, Content content, QWidget* parent)
-    : QLineEdit(parent), m_look(look), m_height(metrics::control) {
+    : QLineEdit(parent), m_look(look), m_content(content), m_height(metrics::control) {
     setStyle(look.style());
     setFrame(false);
     setAttribute(Qt::WA_Hover);
     setAttribute(Qt::WA_MacShowFocusRect, false);
-    const TextStyle style = content == Content::Value ? TextStyle::ValueField : TextStyle::Body;
-    setFont(textFont(style));
     setFocusRadius(*this, metrics::radiusControl);
     ToolTip::installOn(*this, look);
     adopt();
@@ -133,9 +131,13 @@ void TextField::resizeEvent(QResizeEvent* event) {
     arrange();
 }
 
+void TextField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    Q_EMIT focusEntered();
+}
+
 void TextField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    // A menu over the field, or another window, does not end what the user is typing.
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         Q_EMIT focusLeft();
 }
@@ -178,6 +180,9 @@ void TextField::adopt() {
 }
 
 void TextField::arrange() {
+    // A placeholder is words also where the text is a value.
+    const bool isValue = m_content == Content::Value && !text().isEmpty();
+    setFont(textFont(isValue ? TextStyle::ValueField : TextStyle::Body));
     int right = textInset;
     const auto place = [&](QWidget* accessory, bool isThere) {
         if (!accessory)

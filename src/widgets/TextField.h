@@ -39,12 +39,16 @@ public:
 
 Q_SIGNALS:
     void cleared();
+    /// The user has come to the field, and has left it; a menu over it or another window is
+    /// neither.
+    void focusEntered();
     void focusLeft();
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -55,6 +59,7 @@ private:
     void arrange();
 
     const Look& m_look;
+    Content m_content;
     AnimatedValue m_hover{*this};
     int m_height;
     bool m_isFailed = false;

@@ -79,6 +79,9 @@ void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option,
             return;
         }
         break;
+    case CE_MenuScroller:
+        drawMenuScroller(*painter, *option, m_theme);
+        return;
     case CE_MenuEmptyArea:
     case CE_MenuHMargin:
     case CE_MenuVMargin:
@@ -138,6 +141,8 @@ int ThemeStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_MenuHMargin:
     case PM_MenuVMargin:
         return menuPadding;
+    case PM_MenuScrollerHeight:
+        return metrics::space20;
     case PM_MenuPanelWidth:
     case PM_ScrollView_ScrollBarSpacing:
     case PM_ScrollView_ScrollBarOverlap:

@@ -7,10 +7,9 @@
 #include "widgets/RoundedMask.h"
 #include "widgets/TypeScale.h"
 
-#include <QAccessible>
+#include <QApplication>
 #include <QEvent>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QScreen>
 
@@ -45,10 +44,6 @@ public:
             return true;
         case QEvent::Leave:
         case QEvent::Hide:
-        case QEvent::MouseButtonPress:
-        case QEvent::KeyPress:
-        case QEvent::Wheel:
-        case QEvent::WindowDeactivate:
             delete m_plate;
             break;
         case QEvent::ToolTipChange:
@@ -87,6 +82,7 @@ ToolTip::ToolTip(const Look& look, const QString& text, QWidget* owner)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAccessibleName(text);
     m_end.setSingleShot(true);
+    qApp->installEventFilter(this);
     connect(&m_end, &QTimer::timeout, this, &QObject::deleteLater);
 }
 
@@ -105,6 +101,21 @@ void ToolTip::showAt(const QPoint& pointer) {
     maskWhereOpaque(*this, metrics::radiusControl);
     show();
     m_end.start(longestShown);
+}
+
+bool ToolTip::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::KeyPress:
+    case QEvent::Wheel:
+    case QEvent::ApplicationDeactivate:
+        hide();
+        deleteLater();
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void ToolTip::paintEvent(QPaintEvent*) {

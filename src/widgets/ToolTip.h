@@ -27,6 +27,7 @@ public:
     [[nodiscard]] const QString& text() const { return m_text; }
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

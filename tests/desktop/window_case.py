@@ -67,7 +67,7 @@ class WindowCase(DropshadeCase):
     def area(self, title):
         """x, y, width, height of the window's content on the screen."""
         window = self.window(title)
-        return self.desktop._rectangle(window) if window else None
+        return self.desktop.rectangle_of(window) if window else None
 
     def has_keyboard(self, title):
         atom = self.desktop.display.intern_atom("_NET_ACTIVE_WINDOW")

@@ -65,7 +65,7 @@ Qt::KeyboardModifiers TrayStatusItem::modifiers() const {
 
 void TrayStatusItem::createTrayIcon() {
     m_trayIcon.emplace(m_icon);
-    m_trayIcon->setToolTip(QGuiApplication::applicationDisplayName());
+    m_trayIcon->setToolTip(QStringLiteral("Dropshade"));
     connect(&*m_trayIcon, &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
                 if (const auto button = buttonOf(reason))

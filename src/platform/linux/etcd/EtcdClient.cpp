@@ -30,6 +30,7 @@ bool isLocal(const QString& host) {
 } // namespace
 
 QString strangeAnswerWords() {
+    //: Something else than etcd, a program that keeps shared values, is at the address.
     return EtcdClient::tr("The server doesn't answer as etcd does.");
 }
 
@@ -54,6 +55,7 @@ QString EtcdClient::addressTrouble() const {
         return url.scheme() == QLatin1String("https") || isLocal(url.host());
     };
     if (!m_account.user.isEmpty() && !std::all_of(m_servers.cbegin(), m_servers.cend(), isSafe))
+        //: Shown in the settings of sync, for an address that begins with http.
         return tr("The server's address must begin with https, or others could read the password "
                   "on its way.");
     return {};
@@ -147,6 +149,7 @@ EtcdReply EtcdClient::replyOf(QNetworkReply& answer) const {
         //: %1 is the reason.
         reply.words = tr("The server's certificate isn't trusted: %1").arg(answer.errorString());
     else if (answer.error() == QNetworkReply::OperationCanceledError)
+        //: Nothing came from the server of sync in time.
         reply.words = tr("The server doesn't answer.");
     else
         //: %1 is the reason.
@@ -159,18 +162,24 @@ EtcdReply EtcdClient::refusal(int status, const EtcdError& error) const {
         return error.message.contains(QLatin1String(words));
     };
     if (says("too large") || says("larger than max"))
+        //: The server of sync has a limit for each value.
         return {Problem::TooLarge, tr("The value is too large for the server."), {}};
     if (error.code == resourceExhausted)
+        //: The server of sync has a limit for all values.
         return {Problem::Full, tr("The server has no room left."), {}};
     if (error.code == outOfRange && says("compacted"))
         return {Problem::Compacted, {}, {}};
     if (error.code == invalidArgument && says("user name is empty"))
+        //: The account of sync has no user, or no password.
         return {Problem::Refused, tr("The server asks for a user name and a password."), {}};
     if (says("authentication failed") || says("authentication is not enabled"))
+        //: Of the account of sync.
         return {Problem::Refused, tr("The server doesn't accept this user name and password."), {}};
     if (status == 401 || error.code == unauthenticated)
+        //: The account of sync has no user, or no password.
         return {Problem::LoginNeeded, tr("The server asks for a user name and a password."), {}};
     if (status == 403 || error.code == permissionDenied)
+        //: Of the account of sync; the keys are those that its values lie under.
         return {Problem::Refused, tr("This user may not read or write these keys."), {}};
     const QString reason =
         error.message.isEmpty() ? QStringLiteral("HTTP %1").arg(status) : error.message;

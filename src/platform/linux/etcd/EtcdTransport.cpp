@@ -234,11 +234,13 @@ void EtcdTransport::takeWatchLine(const QByteArray& line) {
         if (message && message->isCanceled)
             m_revision = 0;
         const int connection = ++m_connection;
+        //: The server of sync; another connection is made.
+        const QString words = EtcdClient::tr("The server has ended the connection.");
         QMetaObject::invokeMethod(
             this,
-            [this, connection] {
+            [this, connection, words] {
                 if (connection == m_connection)
-                    reconnect(EtcdClient::tr("The server has ended the connection."));
+                    reconnect(words);
             },
             Qt::QueuedConnection);
         return;
