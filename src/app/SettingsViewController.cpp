@@ -73,9 +73,7 @@ private:
 };
 
 SettingsViewController::SettingsViewController(const Surroundings& surroundings)
-    : m_look(surroundings.look), m_shortcuts(surroundings.shortcuts), m_alerts(surroundings.alerts),
-      m_panels(surroundings.panels), m_model(surroundings.model),
-      m_syncAccount(surroundings.syncAccount) {}
+    : m_with(surroundings), m_model(surroundings.model), m_syncAccount(surroundings.syncAccount) {}
 
 SettingsViewController::~SettingsViewController() = default;
 
@@ -83,9 +81,10 @@ void SettingsViewController::show() {
     m_model.reload();
     m_syncAccount.reload();
     if (!m_window) {
-        auto* view =
-            new SettingsRootView({m_look, m_model, m_syncAccount, m_shortcuts, m_alerts, m_panels});
-        m_window = std::make_unique<Window>(m_look, m_model, view);
+        auto* view = new SettingsRootView({m_with.look, m_model, m_syncAccount, m_with.shortcuts,
+                                           m_with.alerts, m_with.panels, m_with.instance,
+                                           m_with.pasteboard});
+        m_window = std::make_unique<Window>(m_with.look, m_model, view);
     }
     m_window->present();
 }

@@ -83,11 +83,13 @@ PalettesEmptyState::PalettesEmptyState(const Look& look, QWidget* parent)
 }
 
 void PalettesEmptyState::setShortcut(const std::optional<QString>& shortcut) {
-    m_hint->setWords(shortcut
-                         //: %1 is a keyboard shortcut
-                         ? tr("Tip: Press %1 from anywhere to open Palettes.").arg(*shortcut)
-                         //: Where no keyboard shortcut is set
-                         : tr("Tip: Set a hotkey in Settings to open Palettes from anywhere."));
+    if (shortcut) {
+        //: %1 is a keyboard shortcut
+        m_hint->setWords(tr("Tip: Press %1 from anywhere to open Palettes.").arg(*shortcut));
+    } else {
+        //: Where no keyboard shortcut is set
+        m_hint->setWords(tr("Tip: Set a hotkey in Settings to open Palettes from anywhere."));
+    }
 }
 
 } // namespace dropshade

@@ -253,8 +253,10 @@ void PalettesWindow::popUpAddMenu(const QPoint& upperRight) {
 void PalettesWindow::ask(const DeleteQuestion& question) {
     Alert alert{question.title,
                 question.message,
-                //: Buttons of an alert
-                {{tr("Cancel"), Alert::Role::Cancel}, {tr("Delete"), Alert::Role::Destructive}}};
+                //: Button of an alert
+                {{tr("Cancel"), Alert::Role::Cancel},
+                 //: Button of an alert
+                 {tr("Delete"), Alert::Role::Destructive}}};
     if (question.swatch)
         alert.color = screenColor(question.swatch->color());
     AlertWindow::ask(look(), this, alert, [confirmed = question.confirmed](qsizetype button) {

@@ -2,8 +2,10 @@
 # SPDX-License-Identifier: MIT
 """The settings and about windows by real clicks and keys; shortcuts recorded on a real keyboard."""
 
+import contextlib
 import json
 import pathlib
+import sqlite3
 import subprocess
 import time
 import unittest
@@ -61,6 +63,13 @@ class SettingsCase(WindowCase):
         wait_until(lambda: self.shortcut(row) == (key_code, modifiers),
                    f"the shortcut, which is {self.shortcut(row)}")
 
+    def forget_shortcuts(self):
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        for file in folder.rglob("defaults.sqlite"):
+            with contextlib.closing(sqlite3.connect(file)) as settings:
+                settings.execute("DELETE FROM defaults WHERE key LIKE 'KeyboardShortcuts%'")
+                settings.commit()
+
     def wait_for_alert(self):
         wait_until(lambda: not self.has_keyboard(SETTINGS), "the alert")
         self.settle()
@@ -73,6 +82,7 @@ class SettingsCase(WindowCase):
 class Recorder(SettingsCase):
 
     def setUp(self):
+        self.forget_shortcuts()
         super().setUp()
         self.open(SETTINGS)
 
