@@ -14,6 +14,7 @@
 #include "app/UpdateDialogs.h"
 #include "app/UpdateService.h"
 #include "color/ColorFormat.h"
+#include "imagepalette/NewPaletteFromImageWindowController.h"
 #include "interchange/PaletteExporter.h"
 #include "interchange/PaletteImporter.h"
 #include "palettes/PalettesWindowController.h"
@@ -59,8 +60,10 @@ public:
     void openColorPicker();
     void openPalettes();
     void openContrast();
-    /// Brings up the palettes, then the sheet that turns an image into one.
-    void openNewPaletteFromImage();
+    /// Brings up the palettes, then the sheet that turns an image into one. `name` is that of the
+    /// image's file without its extension.
+    void openNewPaletteFromImage(std::optional<LoadedImage> image = std::nullopt,
+                                 std::optional<QString> name = std::nullopt);
     /// Brings up the palettes, then the panel that asks for a file.
     void openNewPaletteFromFile();
     /// Brings up the palettes and puts the file's palette in front of them, or tells why not.
@@ -129,6 +132,7 @@ private:
     void finishPick(const std::optional<SRGBColor>& color);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
     PalettesWindowController& palettesController();
+    NewPaletteFromImageWindowController& newPaletteFromImageController();
 
     // What the palettes window asks for
     void copyFromPalettes(const SRGBColor& color, std::optional<ColorFormat> format) override;
@@ -158,6 +162,7 @@ private:
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
     std::unique_ptr<UpdateService> m_updateService;
     std::unique_ptr<PalettesWindowController> m_palettesController;
+    std::unique_ptr<NewPaletteFromImageWindowController> m_newPaletteFromImageController;
     std::unique_ptr<ScheduledWork> m_presetRequest;
     std::unique_ptr<SettingsViewController> m_settingsController;
     std::unique_ptr<AboutWindowController> m_aboutController;

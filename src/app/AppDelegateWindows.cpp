@@ -5,9 +5,10 @@
 #include "KeyboardShortcuts/ShortcutDescription.h"
 #include "contrast/ContrastWindowController.h"
 #include "convert/ColorPickerWindowController.h"
+#include "imagepalette/ImageOffer.h"
+#include "palettes/PalettesWindow.h"
 
 #include <QApplication>
-
 #include <QDesktopServices>
 
 namespace dropshade {
@@ -60,8 +61,24 @@ void AppDelegate::openContrast() {
     m_contrastController->show();
 }
 
-void AppDelegate::openNewPaletteFromImage() {
+NewPaletteFromImageWindowController& AppDelegate::newPaletteFromImageController() {
+    if (!m_newPaletteFromImageController)
+        m_newPaletteFromImageController = std::make_unique<NewPaletteFromImageWindowController>(
+            NewPaletteFromImageWindowController::Surroundings{
+                look(),
+                *m_platform.defaults,
+                paletteStore(),
+                *m_platform.filePanels,
+                {*m_platform.scheduler, *m_platform.backgroundQueue, *m_platform.pasteboard},
+                [this](const SRGBColor& color) { copyColor(color); }});
+    return *m_newPaletteFromImageController;
+}
+
+void AppDelegate::openNewPaletteFromImage(std::optional<LoadedImage> image,
+                                          std::optional<QString> name) {
     openPalettes();
+    newPaletteFromImageController().present(&palettesController().ensureWindow(), std::move(image),
+                                            std::move(name));
 }
 
 void AppDelegate::openNewPaletteFromFile() {
@@ -116,12 +133,14 @@ void AppDelegate::createPaletteFromImage() {
     openNewPaletteFromImage();
 }
 
-void AppDelegate::createPaletteFromImageFile(const QString&) {
-    openNewPaletteFromImage();
+void AppDelegate::createPaletteFromImageFile(const QString& path) {
+    if (auto image = ImageLoader::loadFile(path))
+        openNewPaletteFromImage(std::move(image), nameWithoutExtension(path));
 }
 
-void AppDelegate::createPaletteFromImageData(const QByteArray&, const QString&) {
-    openNewPaletteFromImage();
+void AppDelegate::createPaletteFromImageData(const QByteArray& data, const QString& name) {
+    if (auto image = ImageLoader::loadData(data))
+        openNewPaletteFromImage(std::move(image), name);
 }
 
 void AppDelegate::createPaletteFromFile() {

@@ -13,7 +13,6 @@ namespace dropshade {
 namespace {
 
 constexpr int iconSide = 40;
-constexpr double lineWidth = 1.5;
 
 } // namespace
 
@@ -41,13 +40,7 @@ void PaletteDropOverlay::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), theme.surfaceWindow);
     const QRectF zone = QRectF(rect()).adjusted(metrics::space12, metrics::space12,
                                                 -metrics::space12, -metrics::space12);
-    fillRounded(painter, zone, metrics::radiusSurface, theme.accentFaint);
-    QPen pen(theme.accentBase, lineWidth);
-    pen.setDashPattern({4.0, 4.0});
-    pen.setCapStyle(Qt::FlatCap);
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(zone, metrics::radiusSurface, metrics::radiusSurface);
+    drawDropZone(painter, zone, theme, true, theme.surfaceWindow);
     const QPointF middle = zone.center();
     drawIcon(painter, *m_kind == PaletteDropKind::image ? Icon::ImageDrop : Icon::FileDrop,
              theme.accentBase, middle - QPointF(0.0, iconSide / 2.0), iconSide);

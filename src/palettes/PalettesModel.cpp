@@ -192,11 +192,6 @@ std::optional<QUuid> PalettesModel::takePendingScrollToId() {
 
 // Commands
 
-void PalettesModel::appendPalette(const Palette& palette) {
-    m_store.setPalettes(m_store.palettes() + QList{palette});
-    m_store.scheduleSave(UserPaletteStore::PinValidation::Wanted);
-}
-
 void PalettesModel::createFromScratch() {
     //: Name of a palette that the user has just created
     const Palette palette(
@@ -207,7 +202,7 @@ void PalettesModel::createFromScratch() {
                                        PaletteSwatch(QStringLiteral("#000000"))})},
         m_scheduler.now());
     m_pendingRenamePaletteId = palette.id();
-    appendPalette(palette);
+    m_store.appendPalette(palette);
     scrollTo(palette.id());
     m_rename = m_scheduler.after(nextTurn, [this] { renamePending(); });
 }
@@ -243,7 +238,7 @@ std::unique_ptr<PresetPicker> PalettesModel::makePresetPicker() {
 
 void PalettesModel::addPreset(const Palette& preset, const QString& name) {
     const Palette palette = presetCopy(preset, name, m_scheduler.now());
-    appendPalette(palette);
+    m_store.appendPalette(palette);
     scrollTo(palette.id());
 }
 

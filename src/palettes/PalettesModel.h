@@ -149,7 +149,6 @@ private:
     void scrollTo(QUuid id);
     void renamePending();
     void addPreset(const Palette& preset, const QString& name);
-    void appendPalette(const Palette& palette);
     void followHoveredSwatch();
 
     UserDefaults& m_defaults;

@@ -105,6 +105,11 @@ void UserPaletteStore::setPalettes(const QList<Palette>& palettes) {
     Q_EMIT palettesDidChange();
 }
 
+void UserPaletteStore::appendPalette(const Palette& palette) {
+    setPalettes(m_palettes + QList{palette});
+    scheduleSave(PinValidation::Wanted);
+}
+
 Palette UserPaletteStore::addPalette(const Palette& palette) {
     Palette added = palette.freshCopy(m_scheduler.now());
     const QString name = added.name().isEmpty()

@@ -35,9 +35,12 @@ public:
 
     const QList<Palette>& palettes() const { return m_palettes; }
 
-    /// Replaces the list as it is, with no stamp and no save: for a merge, and for a window that
-    /// adds a whole palette. The caller schedules or flushes the save.
+    /// Replaces the list as it is, with no stamp and no save: for a merge. The caller schedules or
+    /// flushes the save.
     void setPalettes(const QList<Palette>& palettes);
+
+    /// Puts the palette last, as it is, and saves; the save brings the favourites in line.
+    void appendPalette(const Palette& palette);
 
     /// Puts a fresh copy in front, under a name that no palette has, and returns it.
     Palette addPalette(const Palette& palette);

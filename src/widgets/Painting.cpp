@@ -15,6 +15,7 @@ namespace dropshade {
 namespace {
 
 constexpr int previewSquare = 6;
+constexpr double dashLength = 6.0;
 
 QPainterPath rounded(const QRectF& area, double radius) {
     QPainterPath path;
@@ -94,6 +95,23 @@ void drawNoColor(QPainter& painter, const QRectF& area, double radius, const The
     const double inset = radius * 0.3;
     painter.drawLine(area.topLeft() + QPointF(inset, inset),
                      area.bottomRight() - QPointF(inset, inset));
+}
+
+void drawDropZone(QPainter& painter, const QRectF& zone, const Theme& theme, bool isTargeted,
+                  const QColor& ground) {
+    const double width = isTargeted ? metrics::lineSelected : metrics::lineHairline;
+    fillRounded(painter, zone, metrics::radiusSurface, isTargeted ? theme.accentFaint : ground);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPen pen(isTargeted ? theme.accentBase : theme.lineControl, width);
+    pen.setDashPattern({dashLength / width, dashLength / width});
+    pen.setCapStyle(Qt::FlatCap);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const double half = width / 2.0;
+    painter.drawRoundedRect(zone.adjusted(half, half, -half, -half), metrics::radiusSurface - half,
+                            metrics::radiusSurface - half);
+    painter.restore();
 }
 
 void drawShadow(QPainter& painter, const QRectF& area, double radius, const Shadow& shadow) {

@@ -40,6 +40,10 @@ void drawColor(QPainter& painter, const QRectF& area, double radius, const QColo
 /// The place of a colour where there is none.
 void drawNoColor(QPainter& painter, const QRectF& area, double radius, const Theme& theme);
 
+/// A place to drop things on: dashed, over `ground`; in the accent while such a drag is over it.
+void drawDropZone(QPainter& painter, const QRectF& zone, const Theme& theme, bool isTargeted,
+                  const QColor& ground);
+
 void drawShadow(QPainter& painter, const QRectF& area, double radius, const Shadow& shadow);
 
 /// What a floating surface needs around itself for its shadow.

@@ -6,6 +6,7 @@ import contextlib
 import os
 import pathlib
 import sqlite3
+import struct
 import sys
 import unittest
 
@@ -18,8 +19,17 @@ PROGRAM = os.environ.get("DROPSHADE", str(PROJECT / "build/release/src/dropshade
 SCREENSHOTS = pathlib.Path(os.environ.get("SCREENSHOTS", "screenshots"))
 
 
-# How the store numbers the types of its values.
-STRING, DATA = 4, 5
+def stored_form(value):
+    """How the store numbers the type of a value, and the form that it keeps it in."""
+    if isinstance(value, bool):
+        return 1, int(value)
+    if isinstance(value, int):
+        return 2, value
+    if isinstance(value, str):
+        return 4, value.encode("utf-16-le")
+    if isinstance(value, bytes):
+        return 5, value
+    return 6, b"".join(struct.pack("<I", len(text)) + text.encode("utf-16-le") for text in value)
 
 
 def hex_text(color):
@@ -125,11 +135,12 @@ class DropshadeCase(unittest.TestCase):
         return None
 
     def store(self, key, value):
-        """Another process writes a string, or bytes of data, which the program made a store for."""
+        """Another process writes a truth value, a number, a string, bytes of data or a list of
+        strings, which the program made a store for."""
         folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
         wait_until(lambda: self.setting("didImportLegacyContainerPrefs"), "the store")
         file = next(folder.rglob("defaults.sqlite"))
-        kind, stored = (STRING, value.encode("utf-16-le")) if isinstance(value, str) else (DATA, value)
+        kind, stored = stored_form(value)
         with contextlib.closing(sqlite3.connect(file, timeout=5)) as settings, settings:
             settings.execute("INSERT OR REPLACE INTO defaults(key, type, value) VALUES (?, ?, ?)",
                              (key, kind, stored))

@@ -16,6 +16,8 @@ BEGINNINGS = {"ase": b"ASEF\x00\x01\x00\x00", "clr": b"bplist00", "json": b'{\n 
 
 class PaletteFiles(PalettesCase):
 
+    WINDOW = (560, 620)
+
     def setUp(self):
         super().setUp()
         # Where panels open.

@@ -2,11 +2,9 @@
 # SPDX-License-Identifier: MIT
 """What the tests of the palettes window share: a library of their own, and the window open."""
 
-import contextlib
 import json
-import pathlib
-import sqlite3
-import struct
+import signal
+import subprocess
 import time
 import uuid
 
@@ -16,8 +14,6 @@ from dropshade_case import DropshadeCase, wait_until
 
 TOP_BAR, HEADER, ROW, LINE = 48, 40, 38, 1
 LABEL, SWATCH, GAP = 107, 30, 3
-# The row "Palettes…" in the menu of the icon.
-PALETTES_ROW = 115
 
 
 def identifier():
@@ -37,23 +33,10 @@ def palette(name, *scales):
     return {"id": identifier(), "name": name, "scales": list(scales), "lastModified": 700000000.5}
 
 
-def stored(value):
-    """The number of a value's type and its form in the settings."""
-    if isinstance(value, bool):
-        return 1, int(value)
-    if isinstance(value, int):
-        return 2, value
-    if isinstance(value, str):
-        return 4, value
-    if isinstance(value, bytes):
-        return 5, value
-    return 6, b"".join(struct.pack("<I", len(text)) + text.encode("utf-16-le") for text in value)
-
-
 class PalettesCase(DropshadeCase):
     """`self.palettes()` is what the program starts with; the first palette is open."""
 
-    WINDOW = (560, 620)
+    SETTINGS = {}
 
     @classmethod
     def prepare_desktop(cls):
@@ -66,23 +49,14 @@ class PalettesCase(DropshadeCase):
 
     def setUp(self):
         super().setUp()
-        self.end_program()
         self.library = self.palettes()
-        self.store({"userPalettes": json.dumps(self.library).encode(),
-                    "collapsedPaletteIds": [item["id"] for item in self.library[1:]]})
-        self.program = self.start_program()
-        self.icon = self.desktop.tray_icon()
+        self.store("userPalettes", json.dumps(self.library).encode())
+        self.store("collapsedPaletteIds", [item["id"] for item in self.library[1:]])
+        for key, value in self.SETTINGS.items():
+            self.store(key, value)
+        self.program.send(signal.SIGKILL)  # It would save what it has.
+        self.restart_program()
         self.open_palettes()
-
-    def store(self, values):
-        """Writes settings in the program's own form, while it is not running."""
-        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
-        file = next(folder.rglob("defaults.sqlite"))
-        with contextlib.closing(sqlite3.connect(file)) as settings, settings:
-            for key, value in values.items():
-                kind, form = stored(value)
-                settings.execute("INSERT OR REPLACE INTO defaults VALUES (?, ?, ?)",
-                                 (key, kind, form))
 
     def stored_palettes(self):
         return json.loads(self.setting("userPalettes"))
@@ -92,11 +66,11 @@ class PalettesCase(DropshadeCase):
         return [item["value"] for item in swatches]
 
     def open_palettes(self):
-        """By the menu of the icon, and to the usual place."""
-        self.click_icon()
-        self.desktop.wait_for_menu()
-        left, top, *_ = self.desktop.open_menu()
-        self.desktop.click(left + 80, top + PALETTES_ROW)
+        subprocess.run(
+            ["gdbus", "call", "--session", "--dest", "org.dropshade.Dropshade", "--object-path",
+             "/org/dropshade/Dropshade", "--method", "org.freedesktop.Application.ActivateAction",
+             "palettes", "[]", "{}"],
+            env=self.desktop.environment, capture_output=True, check=True, timeout=20)
         self.window = wait_until(lambda: self.find_window("Palettes"), "the palettes window")
         self.desktop.wait_until_still()
 
