@@ -200,6 +200,14 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
 </context>
 <context>
+    <name>ImageZone</name>
+    <message>
+        <source>Remove image</source>
+        <extracomment>Tooltip of the button that takes the image out again</extracomment>
+        <translation>Bild entfernen</translation>
+    </message>
+</context>
+<context>
     <name>ImportedNames</name>
     <message>
         <source>Imported Palette</source>
@@ -416,6 +424,44 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
         <source>All Files (*)</source>
         <comment>Filter of a file panel</comment>
         <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>Quantizer</name>
+    <message>
+        <source>K-means</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>K-Means</translation>
+    </message>
+    <message>
+        <source>Median cut</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Median Cut</translation>
+    </message>
+    <message>
+        <source>Octree</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Octree</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <extracomment>An order of colours: the most frequent first</extracomment>
+        <translation>Häufigkeit</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Light to dark</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Von hell nach dunkel</translation>
+    </message>
+    <message>
+        <source>Dark to light</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Von dunkel nach hell</translation>
     </message>
 </context>
 <context>
@@ -1023,6 +1069,19 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
 </context>
 <context>
+    <name>dropshade::ImageZone</name>
+    <message>
+        <source>Drop an image, paste, or click to browse</source>
+        <extracomment>In the zone that takes an image</extracomment>
+        <translation>Bild ablegen, einfügen oder zum Auswählen klicken</translation>
+    </message>
+    <message>
+        <source>PNG, JPEG, HEIC, TIFF, GIF, BMP, or WebP</source>
+        <extracomment>The kinds of images that are taken</extracomment>
+        <translation>PNG, JPEG, HEIC, TIFF, GIF, BMP oder WebP</translation>
+    </message>
+</context>
+<context>
     <name>dropshade::InlineColorWell</name>
     <message>
         <source>Edit color</source>
@@ -1114,6 +1173,69 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
         <source>Couldn&apos;t read this image.</source>
         <extracomment>Shown where an image is one, but has no pixels to take colours from.</extracomment>
         <translation>Dieses Bild konnte nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::NewPaletteFromImageView</name>
+    <message>
+        <source>New Palette from Image</source>
+        <extracomment>Title of the sheet that makes a palette from an image</extracomment>
+        <translation>Neue Palette aus Bild</translation>
+    </message>
+    <message>
+        <source>Algorithm</source>
+        <extracomment>The way in which the colours are found</extracomment>
+        <translation>Verfahren</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <extracomment>The order of the colours</extracomment>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>How many colours the palette will have</extracomment>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <extracomment>The sign that colours are being worked out, to a screen reader</extracomment>
+        <translation>In Arbeit</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <extracomment>To a screen reader: a colour&apos;s text is on the clipboard</extracomment>
+        <translation>%1 kopiert</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>The name of the palette to be</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Closes the sheet without a palette</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Create Palette</source>
+        <extracomment>Makes the palette and closes the sheet</extracomment>
+        <translation>Palette erstellen</translation>
+    </message>
+    <message>
+        <source>Image %1</source>
+        <extracomment>The image that the palette comes from, to a screen reader; %1 is its file&apos;s name</extracomment>
+        <translation>Bild %1</translation>
+    </message>
+    <message>
+        <source>Choose an Image</source>
+        <extracomment>Title of the panel that asks for an image</extracomment>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <extracomment>Kind of file in a panel</extracomment>
+        <translation>Bilder</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1499,19 @@ Name of the list for screen readers</extracomment>
         <source>Add</source>
         <extracomment>Default button of the sheet with the presets</extracomment>
         <translation>Hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PreviewStrip</name>
+    <message>
+        <source>Preview</source>
+        <extracomment>Name of the colours of the new palette for screen readers</extracomment>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Load an image to generate a palette.</source>
+        <extracomment>Stands in place of the colours while there are none</extracomment>
+        <translation>Ein geladenes Bild ergibt hier eine Palette.</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,14 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
 </context>
 <context>
+    <name>ImageZone</name>
+    <message>
+        <source>Remove image</source>
+        <extracomment>Tooltip of the button that takes the image out again</extracomment>
+        <translation>Remove image</translation>
+    </message>
+</context>
+<context>
     <name>ImportedNames</name>
     <message>
         <source>Imported Palette</source>
@@ -416,6 +424,44 @@ No accounts. No subscriptions. No telemetry.</translation>
         <source>All Files (*)</source>
         <comment>Filter of a file panel</comment>
         <translation>All Files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>Quantizer</name>
+    <message>
+        <source>K-means</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>K-means</translation>
+    </message>
+    <message>
+        <source>Median cut</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Median cut</translation>
+    </message>
+    <message>
+        <source>Octree</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Octree</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <extracomment>An order of colours: the most frequent first</extracomment>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>Light to dark</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Light to dark</translation>
+    </message>
+    <message>
+        <source>Dark to light</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Dark to light</translation>
     </message>
 </context>
 <context>
@@ -1023,6 +1069,19 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
 </context>
 <context>
+    <name>dropshade::ImageZone</name>
+    <message>
+        <source>Drop an image, paste, or click to browse</source>
+        <extracomment>In the zone that takes an image</extracomment>
+        <translation>Drop an image, paste, or click to browse</translation>
+    </message>
+    <message>
+        <source>PNG, JPEG, HEIC, TIFF, GIF, BMP, or WebP</source>
+        <extracomment>The kinds of images that are taken</extracomment>
+        <translation>PNG, JPEG, HEIC, TIFF, GIF, BMP, or WebP</translation>
+    </message>
+</context>
+<context>
     <name>dropshade::InlineColorWell</name>
     <message>
         <source>Edit color</source>
@@ -1114,6 +1173,69 @@ No accounts. No subscriptions. No telemetry.</translation>
         <source>Couldn&apos;t read this image.</source>
         <extracomment>Shown where an image is one, but has no pixels to take colours from.</extracomment>
         <translation>Couldn&apos;t read this image.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::NewPaletteFromImageView</name>
+    <message>
+        <source>New Palette from Image</source>
+        <extracomment>Title of the sheet that makes a palette from an image</extracomment>
+        <translation>New Palette from Image</translation>
+    </message>
+    <message>
+        <source>Algorithm</source>
+        <extracomment>The way in which the colours are found</extracomment>
+        <translation>Algorithm</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <extracomment>The order of the colours</extracomment>
+        <translation>Sort by</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>How many colours the palette will have</extracomment>
+        <translation>Colors</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <extracomment>The sign that colours are being worked out, to a screen reader</extracomment>
+        <translation>Working</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <extracomment>To a screen reader: a colour&apos;s text is on the clipboard</extracomment>
+        <translation>Copied %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>The name of the palette to be</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Closes the sheet without a palette</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Create Palette</source>
+        <extracomment>Makes the palette and closes the sheet</extracomment>
+        <translation>Create Palette</translation>
+    </message>
+    <message>
+        <source>Image %1</source>
+        <extracomment>The image that the palette comes from, to a screen reader; %1 is its file&apos;s name</extracomment>
+        <translation>Image %1</translation>
+    </message>
+    <message>
+        <source>Choose an Image</source>
+        <extracomment>Title of the panel that asks for an image</extracomment>
+        <translation>Choose an Image</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <extracomment>Kind of file in a panel</extracomment>
+        <translation>Images</translation>
     </message>
 </context>
 <context>
@@ -1377,6 +1499,19 @@ Name of the list for screen readers</extracomment>
         <source>Add</source>
         <extracomment>Default button of the sheet with the presets</extracomment>
         <translation>Add</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PreviewStrip</name>
+    <message>
+        <source>Preview</source>
+        <extracomment>Name of the colours of the new palette for screen readers</extracomment>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Load an image to generate a palette.</source>
+        <extracomment>Stands in place of the colours while there are none</extracomment>
+        <translation>Load an image to generate a palette.</translation>
     </message>
 </context>
 <context>

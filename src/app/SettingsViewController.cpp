@@ -54,9 +54,8 @@ protected:
         FloatingWindow::hideEvent(event);
     }
     void closeEvent(QCloseEvent* event) override {
-        // What is typed in a field counts when the field is left.
-        if (QWidget* field = focusWidget())
-            field->clearFocus();
+        // What is typed in a field counts when the field is left, and the next show begins anew.
+        setFocus();
         FloatingWindow::closeEvent(event);
     }
 
