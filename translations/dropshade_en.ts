@@ -1239,6 +1239,14 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
 </context>
 <context>
+    <name>dropshade::PaletteList</name>
+    <message>
+        <source>favorite</source>
+        <extracomment>For screen readers, behind the name of a color</extracomment>
+        <translation>favorite</translation>
+    </message>
+</context>
+<context>
     <name>dropshade::PaletteMenus</name>
     <message>
         <source>Create from scratch</source>

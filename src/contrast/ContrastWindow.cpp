@@ -101,7 +101,7 @@ QWidget* ContrastWindow::makeVerdict() {
     m_ruler = new ContrastRuler(look());
     column->addSpacing(9);
     column->addWidget(m_ruler);
-    column->addSpacing(14);
+    column->addSpacing(13);
     m_card = new SamplePreviewCard(look());
     column->addWidget(m_card);
     return area;

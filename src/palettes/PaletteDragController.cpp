@@ -61,10 +61,7 @@ void PaletteDragController::reset() {
     m_dropHighlightScaleId.reset();
     m_intendedDropScaleId.reset();
     m_intendedDropIndex = 0;
-    if (!m_dragging)
-        return;
     m_dragging.reset();
-    Q_EMIT draggingDidChange();
 }
 
 // Palettes
@@ -105,6 +102,7 @@ void PaletteDragController::paletteDragEnded() {
     reset();
     m_store.reorderPalettes(order);
     Q_EMIT arrangementDidChange();
+    Q_EMIT draggingDidChange();
     Q_EMIT paletteDragDidEnd();
 }
 
@@ -130,6 +128,7 @@ void PaletteDragController::clearScales() {
     m_activeLocalScales.clear();
     reset();
     Q_EMIT arrangementDidChange();
+    Q_EMIT draggingDidChange();
 }
 
 qsizetype PaletteDragController::scaleIndexAt(const QPointF& point,

@@ -95,7 +95,7 @@ public:
     /// Drops what has been arranged, without a write: the drag goes on outside the list.
     void abandon();
 
-    /// Back to idle; the working copies stay.
+    /// Back to idle, without a word; the working copies stay.
     void reset();
 
     /// The centre of the dragged item's image over a list with these bounds, and its natural size;
@@ -113,6 +113,7 @@ public:
                                            const std::optional<QUuid>& excluded) const;
 
 Q_SIGNALS:
+    /// A drag has begun, or has ended and is written.
     void draggingDidChange();
     void cursorDidChange();
     /// A working copy, the intended place or the marked scale is another one.

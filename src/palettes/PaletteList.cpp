@@ -209,20 +209,26 @@ bool PaletteList::isLifted(const ListRow& row) const {
     return scale && row.kind == ListRow::Kind::Scale && row.scaleId == scale->scaleId;
 }
 
+/// The list may be asked for a row between a change and its own arrangement, so that what is gone
+/// leaves the widget as it is.
 void PaletteList::fillRow(const ListRow& row, ListRowWidget& widget, Change change) {
-    const Palette& palette = m_model.shownPalettes().at(row.paletteIndex);
+    const auto palette = itemWithId(m_model.shownPalettes(), row.paletteId);
+    if (!palette)
+        return;
     if (auto* header = qobject_cast<PaletteHeaderWidget*>(&widget)) {
-        header->display(palette, m_model.isExpanded(palette.id()), m_layout.measures(),
+        header->display(*palette, m_model.isExpanded(palette->id()), m_layout.measures(),
                         row.paletteIndex > 0 ? PaletteHeaderWidget::Line::Above
                                              : PaletteHeaderWidget::Line::None);
-    } else if (auto* scale = qobject_cast<ScaleRowWidget*>(&widget)) {
-        scale->display(palette.id(), m_model.shownScales(palette).at(row.scaleIndex),
-                       m_layout.measures(),
-                       change == Change::Springs ? ScaleRowWidget::Motion::Springs
-                                                 : ScaleRowWidget::Motion::Jumps);
-        scale->setDropTarget(m_model.drag().dropHighlightScaleId() == row.scaleId);
+    } else if (auto* scaleRow = qobject_cast<ScaleRowWidget*>(&widget)) {
+        const auto scale = itemWithId(m_model.shownScales(*palette), row.scaleId);
+        if (!scale)
+            return;
+        scaleRow->display(palette->id(), *scale, m_layout.measures(),
+                          change == Change::Springs ? ScaleRowWidget::Motion::Springs
+                                                    : ScaleRowWidget::Motion::Jumps);
+        scaleRow->setDropTarget(m_model.drag().dropHighlightScaleId() == row.scaleId);
     } else if (auto* add = qobject_cast<AddScaleWidget*>(&widget)) {
-        add->display(palette.id(), m_layout.measures());
+        add->display(palette->id(), m_layout.measures());
     }
     widget.setLifted(isLifted(row));
     widget.setMarks(m_marks);

@@ -71,6 +71,8 @@ public:
 
 Q_SIGNALS:
     void focusedDidChange(const dropshade::ListElement& element);
+    /// A screen reader presses the element.
+    void activationRequested(const dropshade::ListElement& element);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -15,6 +15,8 @@ namespace {
 constexpr int artSide = 48;
 constexpr int textWidth = 400;
 constexpr int buttonWidth = 248;
+constexpr int heightForArt = 360;
+constexpr int heightForHint = 280;
 
 class Art : public QWidget {
 public:
@@ -36,21 +38,18 @@ private:
 Label* centered(Label* label) {
     label->setAlignment(Qt::AlignCenter);
     label->setWordWrap(true);
-    label->setMaximumWidth(textWidth);
     return label;
 }
 
 } // namespace
 
 PalettesEmptyState::PalettesEmptyState(const Look& look, QWidget* parent)
-    : QWidget(parent),
+    : QWidget(parent), m_column(new QVBoxLayout(this)), m_art(new Art(look, this)),
       m_hint(centered(new Label(look, TextStyle::Caption, Label::Tone::Tertiary, {}, this))) {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(metrics::windowMargin, metrics::space8, metrics::windowMargin,
-                               metrics::space8);
+    QVBoxLayout* column = m_column;
     column->setSpacing(0);
     column->addStretch();
-    column->addWidget(new Art(look, this), 0, Qt::AlignHCenter);
+    column->addWidget(m_art, 0, Qt::AlignHCenter);
     column->addSpacing(metrics::space16);
     //: Title in the palettes window without palettes
     column->addWidget(centered(
@@ -60,8 +59,7 @@ PalettesEmptyState::PalettesEmptyState(const Look& look, QWidget* parent)
     const QString text = tr("Organize your colors into palettes for quick access. Start from a "
                             "built-in preset or create a blank palette to fill in yourself.");
     column->addWidget(
-        centered(new Label(look, TextStyle::Body, Label::Tone::Secondary, text, this)), 0,
-        Qt::AlignHCenter);
+        centered(new Label(look, TextStyle::Body, Label::Tone::Secondary, text, this)));
     column->addSpacing(metrics::space24);
     //: Button in the palettes window without palettes
     auto* preset =
@@ -69,27 +67,39 @@ PalettesEmptyState::PalettesEmptyState(const Look& look, QWidget* parent)
     //: Button in the palettes window without palettes
     auto* scratch =
         new TextButton(look, TextButton::Kind::Plain, tr("Create palette from scratch"), this);
-    for (TextButton* button : {preset, scratch}) {
-        button->setFixedWidth(std::max(buttonWidth, button->sizeHint().width()));
+    m_buttons = {preset, scratch};
+    for (QWidget* button : m_buttons) {
         column->addWidget(button, 0, Qt::AlignHCenter);
         column->addSpacing(metrics::space8);
     }
     column->addSpacing(metrics::space16);
-    column->addWidget(m_hint, 0, Qt::AlignHCenter);
+    column->addWidget(m_hint);
     column->addStretch();
     connect(preset, &QAbstractButton::clicked, this, &PalettesEmptyState::presetRequested);
     connect(scratch, &QAbstractButton::clicked, this, &PalettesEmptyState::scratchRequested);
     setShortcut(std::nullopt);
 }
 
+/// A low window keeps what can be done, and leaves out the ornament and then the hint.
+void PalettesEmptyState::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    const int side = std::max(metrics::compactMargin, (width() - textWidth) / 2);
+    m_column->setContentsMargins(side, metrics::space8, side, metrics::space8);
+    for (QWidget* button : m_buttons)
+        button->setFixedWidth(std::min(std::max(buttonWidth, button->sizeHint().width()),
+                                       width() - 2 * metrics::compactMargin));
+    m_art->setVisible(height() >= heightForArt);
+    m_hint->setVisible(height() >= heightForHint);
+}
+
 void PalettesEmptyState::setShortcut(const std::optional<QString>& shortcut) {
     if (shortcut) {
         //: %1 is a keyboard shortcut
         m_hint->setWords(tr("Tip: Press %1 from anywhere to open Palettes.").arg(*shortcut));
-    } else {
-        //: Where no keyboard shortcut is set
-        m_hint->setWords(tr("Tip: Set a hotkey in Settings to open Palettes from anywhere."));
+        return;
     }
+    //: Where no keyboard shortcut is set
+    m_hint->setWords(tr("Tip: Set a hotkey in Settings to open Palettes from anywhere."));
 }
 
 } // namespace dropshade

@@ -4,9 +4,12 @@
 
 #include "widgets/Look.h"
 
+#include <QList>
 #include <QWidget>
 
 #include <optional>
+
+class QVBoxLayout;
 
 namespace dropshade {
 
@@ -26,7 +29,13 @@ Q_SIGNALS:
     void presetRequested();
     void scratchRequested();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    QVBoxLayout* m_column;
+    QWidget* m_art;
+    QList<QWidget*> m_buttons;
     Label* m_hint;
 };
 

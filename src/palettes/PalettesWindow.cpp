@@ -3,6 +3,7 @@
 #include "palettes/PalettesWindow.h"
 
 #include "app/SettingsReaders.h"
+#include "palettes/AccessiblePaletteList.h"
 #include "palettes/ListKeys.h"
 #include "palettes/ListPointer.h"
 #include "palettes/MenuBuilder.h"
@@ -70,6 +71,7 @@ PalettesWindow::~PalettesWindow() = default;
 void PalettesWindow::build() {
     m_topBar = new PalettesTopBar(look(), m_model, this);
     m_scrollArea = new ScrollArea(look(), this);
+    installAccessiblePaletteList();
     m_list = new PaletteList(look(), m_model, *m_scrollArea);
     //: Name of the list for screen readers
     m_list->setAccessibleName(tr("Palettes"));
@@ -104,6 +106,7 @@ void PalettesWindow::connectList() {
     connect(m_actions, &ListActions::swatchAddRequested, this, &PalettesWindow::addSwatch);
     connect(m_actions, &ListActions::swatchEditRequested, this, &PalettesWindow::editSwatch);
     connect(m_actions, &ListActions::menuRequested, this, &PalettesWindow::showMenu);
+    connect(m_list, &PaletteList::activationRequested, m_actions, &ListActions::activate);
     connect(m_pointer, &ListPointer::pressed, m_keys, &ListKeys::hideRing);
     connect(m_topBar, &PalettesTopBar::addMenuRequested, this, &PalettesWindow::popUpAddMenu);
     connect(m_emptyState, &PalettesEmptyState::presetRequested, &m_model,
@@ -251,12 +254,13 @@ void PalettesWindow::popUpAddMenu(const QPoint& upperRight) {
 }
 
 void PalettesWindow::ask(const DeleteQuestion& question) {
+    //: Button of an alert
+    const QString cancel = tr("Cancel");
+    //: Button of an alert
+    const QString destroy = tr("Delete");
     Alert alert{question.title,
                 question.message,
-                //: Button of an alert
-                {{tr("Cancel"), Alert::Role::Cancel},
-                 //: Button of an alert
-                 {tr("Delete"), Alert::Role::Destructive}}};
+                {{cancel, Alert::Role::Cancel}, {destroy, Alert::Role::Destructive}}};
     if (question.swatch)
         alert.color = screenColor(question.swatch->color());
     AlertWindow::ask(look(), this, alert, [confirmed = question.confirmed](qsizetype button) {

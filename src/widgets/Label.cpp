@@ -26,10 +26,22 @@ Label::Label(const Look& look, TextStyle style, Tone tone, const QString& words,
     : QLabel(parent), m_look(look), m_style(style), m_tone(tone) {
     setTextFormat(Qt::PlainText);
     setFont(textFont(style));
-    setMinimumHeight(lineHeight(style));
     setWords(words);
     adopt();
     connect(&look, &Look::didChange, this, &Label::adopt);
+}
+
+QSize Label::sizeHint() const {
+    const QSize natural = QLabel::sizeHint();
+    if (wordWrap())
+        return natural;
+    const QMargins margins = contentsMargins();
+    return {natural.width(), lineHeight(m_style) + margins.top() + margins.bottom()};
+}
+
+QSize Label::minimumSizeHint() const {
+    return {QLabel::minimumSizeHint().width(),
+            wordWrap() ? lineHeight(m_style) : sizeHint().height()};
 }
 
 void Label::setTone(Tone tone) {

@@ -21,6 +21,10 @@ public:
           QWidget* parent = nullptr);
 
     void setTone(Tone tone);
+
+    /// A single line is as high as its text style says, whatever room the font leaves around it.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
     void setWords(const QString& words);
 
 private:

@@ -32,7 +32,8 @@ ScrollArea::ScrollArea(const Look& look, QWidget* parent)
     connect(m_bar, &QScrollBar::valueChanged, own, &QScrollBar::setValue);
     connect(&look, &Look::didChange, m_bar, qOverload<>(&QWidget::update));
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* focused) {
-        if (focused && widget() && widget()->isAncestorOf(focused))
+        // A content that has the keyboard itself knows which part of it to show.
+        if (focused && focused != widget() && widget() && widget()->isAncestorOf(focused))
             ensureWidgetVisible(focused, 0, metrics::space8);
     });
     arrange();

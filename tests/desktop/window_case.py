@@ -40,6 +40,14 @@ class WindowCase(DropshadeCase):
     def start_program(self, **variables):
         return super().start_program(QT_SCALE_FACTOR=str(self.scale), **variables)
 
+    def setUp(self):
+        super().setUp()
+        self.checks_before = self.copies_counted()
+
+    def checks_made(self):
+        """Colours copied and sampled since the test began."""
+        return self.copies_counted() - self.checks_before
+
     def set_scheme(self, name):
         subprocess.run(
             ["dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.portal.Desktop",

@@ -6,10 +6,14 @@
 #include "palettes/PaletteList.h"
 #include "palettes/PalettesWindow.h"
 #include "palettes/PalettesWindowController.h"
+#include "palettes/ScaleRowWidget.h"
 #include "support/FakeAppearance.h"
 #include "widgets/Look.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QPushButton>
 #include <QTest>
 
 namespace dropshade {
@@ -73,6 +77,54 @@ protected:
          {m_machine.defaults(), m_machine.scheduler(), m_machine.settings(), m_machine.store(),
           m_presets, m_commands},
          [] { return std::optional<QString>(); }}};
+};
+
+/// The window, with what one does in it.
+class Window : public PalettesWindowOnScreen {
+protected:
+    Window() { window(); }
+
+    template <typename Kind>
+    static Kind* shown() {
+        QApplication::processEvents();
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (auto* found = qobject_cast<Kind*>(widget); found && found->isVisible())
+                return found;
+        }
+        return nullptr;
+    }
+    static void choose(const char* title, Qt::KeyboardModifiers modifiers = {}) {
+        auto* menu = shown<QMenu>();
+        ASSERT_TRUE(menu);
+        for (QAction* action : menu->actions()) {
+            if (action->text() != QString::fromUtf8(title))
+                continue;
+            QTest::mouseClick(menu, Qt::LeftButton, modifiers,
+                              menu->actionGeometry(action).center());
+            return;
+        }
+        ADD_FAILURE() << "no row " << title;
+    }
+    void openMenu(const ListElement& element) {
+        const QPoint at = center(element);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, list().mapToGlobal(at));
+        QApplication::sendEvent(&list(), &event);
+    }
+    static void press(QWidget* in, const char* title) {
+        for (auto* button : in->findChildren<QPushButton*>()) {
+            if (button->text() == QString::fromUtf8(title)) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                return;
+            }
+        }
+        ADD_FAILURE() << "no button " << title;
+    }
+    qint64 paintedSwatches() {
+        qint64 sum = 0;
+        for (const auto* row : list().findChildren<ScaleRowWidget*>())
+            sum += row->paintedSwatches();
+        return sum;
+    }
 };
 
 } // namespace dropshade

@@ -10,6 +10,7 @@
 #include "support/QtPrinters.h"
 #include "widgets/AlertWindow.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -20,53 +21,6 @@ namespace dropshade {
 namespace {
 
 using testing::IsEmpty;
-
-class Window : public PalettesWindowOnScreen {
-protected:
-    Window() { window(); }
-
-    template <typename Kind>
-    static Kind* shown() {
-        QApplication::processEvents();
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (auto* found = qobject_cast<Kind*>(widget); found && found->isVisible())
-                return found;
-        }
-        return nullptr;
-    }
-    static void choose(const char* title, Qt::KeyboardModifiers modifiers = {}) {
-        auto* menu = shown<QMenu>();
-        ASSERT_TRUE(menu);
-        for (QAction* action : menu->actions()) {
-            if (action->text() != QString::fromUtf8(title))
-                continue;
-            QTest::mouseClick(menu, Qt::LeftButton, modifiers,
-                              menu->actionGeometry(action).center());
-            return;
-        }
-        ADD_FAILURE() << "no row " << title;
-    }
-    void openMenu(const ListElement& element) {
-        const QPoint at = center(element);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, at, list().mapToGlobal(at));
-        QApplication::sendEvent(&list(), &event);
-    }
-    static void press(QWidget* in, const char* title) {
-        for (auto* button : in->findChildren<QPushButton*>()) {
-            if (button->text() == QString::fromUtf8(title)) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                return;
-            }
-        }
-        ADD_FAILURE() << "no button " << title;
-    }
-    qint64 paintedSwatches() {
-        qint64 sum = 0;
-        for (const auto* row : list().findChildren<ScaleRowWidget*>())
-            sum += row->paintedSwatches();
-        return sum;
-    }
-};
 
 // Clicks
 
@@ -242,144 +196,6 @@ TEST_F(Window, ClosingTheWindowEndsThePresetPickerFirst) {
     EXPECT_FALSE(m_controller.ensureWindow().isVisible());
 }
 
-// Dragging
-
-TEST_F(Window, ADragReordersSwatchesInOneWrite) {
-    drag(center(swatch(0, 0)), {center(swatch(0, 1)), center(swatch(0, 2)) + QPoint(10, 0)});
-    EXPECT_EQ(values(0), QStringLiteral("blue aqua navy"));
-    EXPECT_EQ(m_changes, 1);
-    EXPECT_THAT(m_commands.copies, IsEmpty()) << "the release is no click";
-}
-
-TEST_F(Window, ADragTakesASwatchToAnotherScale) {
-    drag(center(swatch(0, 1)), {center(swatch(1, 0)) - QPoint(2, 0)});
-    EXPECT_EQ(values(0), QStringLiteral("navy aqua"));
-    EXPECT_EQ(values(1), QStringLiteral("blue tan"));
-}
-
-TEST_F(Window, TheGripReordersScales) {
-    const QPoint grip(6, center(label(0)).y());
-    drag(grip, {QPoint(6, center(label(1)).y())});
-    EXPECT_EQ(scaleNames(), QStringLiteral("Shore Deep"));
-    EXPECT_FALSE(shown<NamePopover>()) << "the release is no click on the label";
-}
-
-TEST_F(Window, AHeaderReordersPalettesAndAllCollapse) {
-    drag(center(header(landId())), {center(header(seaId()))});
-    EXPECT_EQ(names(), QStringLiteral("Land Sea"));
-    EXPECT_FALSE(model().isExpanded(seaId()));
-    EXPECT_FALSE(model().isExpanded(landId()));
-}
-
-TEST_F(Window, APaletteDeletedByAnotherMachineEndsTheDragInIt) {
-    QTest::mousePress(&list(), Qt::LeftButton, {}, center(swatch(0, 0)));
-    dragTo(center(swatch(0, 2)));
-    ASSERT_TRUE(model().drag().isDragging());
-    store().setPalettes({m_land});
-    EXPECT_FALSE(model().drag().isDragging());
-    dragTo(QPoint(200, 60));
-    QTest::mouseRelease(&list(), Qt::LeftButton, {}, QPoint(200, 60));
-    EXPECT_EQ(names(), QStringLiteral("Land"));
-    EXPECT_THAT(m_commands.copies, IsEmpty());
-}
-
-TEST_F(Window, HidingTheWindowEndsADragLikeARelease) {
-    QTest::mousePress(&list(), Qt::LeftButton, {}, center(swatch(0, 0)));
-    dragTo(center(swatch(0, 2)) + QPoint(10, 0));
-    window().hide();
-    EXPECT_FALSE(model().drag().isDragging());
-    EXPECT_EQ(values(0), QStringLiteral("blue aqua navy"));
-}
-
-// Hovering
-
-TEST_F(Window, TheStatusBarTellsTheSwatchUnderThePointer) {
-    hover(center(swatch(0, 1)));
-    auto* bar = window().findChild<PalettesStatusBar*>();
-    EXPECT_EQ(bar->accessibleName(), QStringLiteral("blue"));
-    hover(center(header(landId())));
-    scheduler().advance(150);
-    EXPECT_EQ(bar->accessibleName(), QStringLiteral("Control-click for options"));
-    hover(QPoint(300, list().height() - 2));
-    EXPECT_TRUE(bar->accessibleName().isEmpty());
-}
-
-TEST_F(Window, HoveringRepaintsTwoSwatchesAtMost) {
-    hover(center(swatch(0, 0)));
-    QApplication::processEvents();
-    for (const int index : {1, 2, 1, 0}) {
-        const qint64 before = paintedSwatches();
-        hover(center(swatch(0, index)));
-        QApplication::processEvents();
-        const qint64 painted = paintedSwatches() - before;
-        EXPECT_GE(painted, 1);
-        EXPECT_LE(painted, 2);
-    }
-}
-
-TEST_F(Window, AMoveWithinASwatchRepaintsNothing) {
-    hover(center(swatch(0, 0)));
-    QApplication::processEvents();
-    const qint64 before = paintedSwatches();
-    hover(center(swatch(0, 0)) + QPoint(2, 2));
-    QApplication::processEvents();
-    EXPECT_EQ(paintedSwatches(), before);
-}
-
-// Keys
-
-TEST_F(Window, ArrowsGoThroughRowsAndReturnCopies) {
-    key(Qt::Key_Down);
-    EXPECT_EQ(window().keys().current(), header(seaId()));
-    key(Qt::Key_Down);
-    key(Qt::Key_Right);
-    key(Qt::Key_Right);
-    EXPECT_EQ(window().keys().current(), swatch(0, 1));
-    key(Qt::Key_Return);
-    EXPECT_EQ(m_commands.copies.size(), 1);
-}
-
-TEST_F(Window, AltWithAnArrowMovesASwatchAndTheKeyboardGoesAlong) {
-    window().keys().setCurrent(swatch(0, 0));
-    key(Qt::Key_Right, Qt::AltModifier);
-    EXPECT_EQ(values(0), QStringLiteral("blue navy aqua"));
-    key(Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(values(1), QStringLiteral("tan navy"));
-    EXPECT_EQ(window().keys().current().scaleId, scaleId(1));
-    auto* bar = window().findChild<PalettesStatusBar*>();
-    EXPECT_FALSE(bar->accessibleName().isEmpty());
-}
-
-TEST_F(Window, AltWithAnArrowMovesScalesAndPalettes) {
-    window().keys().setCurrent(label(0));
-    key(Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(scaleNames(), QStringLiteral("Shore Deep"));
-    window().keys().setCurrent(header(seaId()));
-    key(Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(names(), QStringLiteral("Land Sea"));
-}
-
-TEST_F(Window, TabGoesFromRowToRowAndOutAtTheEnd) {
-    key(Qt::Key_Tab);
-    EXPECT_EQ(window().keys().current(), header(seaId()));
-    key(Qt::Key_Tab);
-    EXPECT_EQ(window().keys().current(), label(0));
-    for (int rows = 0; rows < 3; ++rows)
-        key(Qt::Key_Tab);
-    EXPECT_TRUE(list().hasFocus());
-    key(Qt::Key_Tab);
-    EXPECT_FALSE(list().hasFocus());
-}
-
-TEST_F(Window, DeleteAsksAndShiftDeleteDoesNot) {
-    window().keys().setCurrent(swatch(0, 1));
-    key(Qt::Key_Delete);
-    ASSERT_TRUE(shown<AlertWindow>());
-    press(shown<AlertWindow>(), "Cancel");
-    key(Qt::Key_Delete, Qt::ShiftModifier);
-    EXPECT_EQ(values(0), QStringLiteral("navy aqua"));
-}
-
 TEST_F(Window, EscapeClosesItAndWritesWhatWaits) {
     store().renamePalette(seaId(), QStringLiteral("Ocean"));
     model().toggleFavorite({seaId(), scaleId(0), swatchId(0, 0)});
@@ -395,6 +211,39 @@ TEST_F(Window, KeepsWhatIsOpenOverACloseAndAReopening) {
     window().close();
     EXPECT_EQ(&window(), before);
     EXPECT_FALSE(model().isExpanded(landId()));
+}
+
+// Screen readers
+
+TEST_F(Window, AScreenReaderMeetsWhatIsInView) {
+    store().updateSwatch(
+        seaId(), scaleId(0),
+        PaletteSwatch(swatchId(0, 1), QStringLiteral("#0000ff"), QStringLiteral("sky")));
+    model().toggleFavorite({seaId(), scaleId(0), swatchId(0, 1)});
+    QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&list());
+    ASSERT_TRUE(tree);
+    QStringList names;
+    for (int index = 0; index < tree->childCount(); ++index)
+        names.append(tree->child(index)->text(QAccessible::Name));
+    EXPECT_EQ(names.join(QLatin1Char('|')),
+              QStringLiteral("Sea|Palette options|Deep|navy|sky, #0000ff, favorite|aqua|Add color|"
+                             "Shore|tan|Add color|Land|Palette options|Wood|green|Add color"));
+    EXPECT_TRUE(tree->child(0)->state().expanded);
+    EXPECT_EQ(tree->child(4)->rect().center(),
+              list().mapToGlobal(list().areaOf(swatch(0, 1)).toAlignedRect().center()));
+    EXPECT_EQ(tree->indexOfChild(tree->child(4)), 4);
+}
+
+TEST_F(Window, AScreenReaderPressesLikeAClick) {
+    QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&list());
+    QAccessibleInterface* child = tree->child(4);
+    child->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(m_commands.copies.size(), 1);
+    store().setPalettes({m_land});
+    EXPECT_FALSE(child->isValid());
+    EXPECT_TRUE(child->text(QAccessible::Name).isEmpty());
+    child->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(m_commands.copies.size(), 1);
 }
 
 // Arrangement
@@ -426,6 +275,16 @@ TEST_F(Window, HasWidgetsForTheRowsInViewOnly) {
     QApplication::processEvents();
     EXPECT_GT(list().view().top(), 39000);
     EXPECT_LT(list().findChildren<ListRowWidget*>().size(), 25);
+}
+
+TEST_F(Window, OpensAtTheTopWhateverTheLengthOfTheList) {
+    window().close();
+    QList<Palette> palettes;
+    for (int index = 0; index < 100; ++index)
+        palettes.append(makePalette("Palette", {makeScale("Scale", {"red"})}));
+    store().setPalettes(palettes);
+    window();
+    EXPECT_EQ(list().view().top(), 0);
 }
 
 TEST_F(Window, StandsAtEveryWidth) {
