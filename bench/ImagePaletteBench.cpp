@@ -7,6 +7,7 @@
 
 #include "imagepalette/NewPaletteFromImageView.h"
 #include "imagepalette/NewPaletteFromImageWindowController.h"
+#include "platform/linux/LargeMemory.h"
 #include "platform/linux/PoolBackgroundQueue.h"
 #include "platform/linux/QtScheduler.h"
 #include "support/FakeAppearance.h"
@@ -138,13 +139,16 @@ struct DropTimes {
 DropTimes drop(NewPaletteFromImageView& sheet, const QString& path) {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(path)});
+    // Qt drops on whoever has let the drag in.
+    QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&sheet, &enter);
     QElapsedTimer time;
     time.start();
     QDropEvent event(QPointF(100, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&sheet, &event);
-    const double event1 = static_cast<double>(time.nsecsElapsed()) / 1e6;
+    const double handled = static_cast<double>(time.nsecsElapsed()) / 1e6;
     const double turns = turnUntil(sheet, 8);
-    return {static_cast<double>(time.nsecsElapsed()) / 1e6, std::max(event1, turns)};
+    return {static_cast<double>(time.nsecsElapsed()) / 1e6, std::max(handled, turns)};
 }
 
 /// The longest turn of a drag over all counts and back, each step drawn.
@@ -184,7 +188,9 @@ bool report(const char* what, double value, double budget, const char* unit) {
 } // namespace
 
 int main(int argc, char** argv) {
+    giveLargeMemoryBack();
     QApplication application(argc, argv);
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("photograph.jpeg"));
     {

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/Words.h"
 #include "platform/linux/Factory.h"
+#include "platform/linux/LargeMemory.h"
 #include "platform/linux/QuitSignals.h"
 #include "widgets/QtFilePanels.h"
 #include "widgets/ThemedAlerts.h"
@@ -12,6 +13,7 @@
 int main(int argc, char** argv) {
     using namespace dropshade;
 
+    giveLargeMemoryBack();
     QuitSignals quitSignals;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("dropshade"));

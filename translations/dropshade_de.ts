@@ -200,6 +200,14 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
 </context>
 <context>
+    <name>ImageZone</name>
+    <message>
+        <source>Remove image</source>
+        <extracomment>Tooltip of the button that takes the image out again</extracomment>
+        <translation>Bild entfernen</translation>
+    </message>
+</context>
+<context>
     <name>ImportedNames</name>
     <message>
         <source>Imported Palette</source>
@@ -416,6 +424,44 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
         <source>All Files (*)</source>
         <comment>Filter of a file panel</comment>
         <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>Quantizer</name>
+    <message>
+        <source>K-means</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>K-Means</translation>
+    </message>
+    <message>
+        <source>Median cut</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Median Cut</translation>
+    </message>
+    <message>
+        <source>Octree</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Octree</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <extracomment>An order of colours: the most frequent first</extracomment>
+        <translation>Häufigkeit</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Light to dark</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Von hell nach dunkel</translation>
+    </message>
+    <message>
+        <source>Dark to light</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Von dunkel nach hell</translation>
     </message>
 </context>
 <context>
@@ -731,9 +777,184 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
 </context>
 <context>
+    <name>dropshade::ColorInputRow</name>
+    <message>
+        <source>Background</source>
+        <comment>Field label</comment>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Foreground</source>
+        <comment>Field label</comment>
+        <translation>Vordergrund</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t parse this color</source>
+        <comment>Invalid color tooltip</comment>
+        <translation>Das ist keine lesbare Farbe</translation>
+    </message>
+    <message>
+        <source>Pick color from screen</source>
+        <comment>Eyedropper tooltip</comment>
+        <translation>Farbe vom Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>%1 — pick color from screen</source>
+        <comment>Eyedropper name</comment>
+        <extracomment>%1 is the field&apos;s label</extracomment>
+        <translation>%1 – Farbe vom Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <comment>Copy button tooltip</comment>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>More actions</source>
+        <comment>Action menu tooltip</comment>
+        <translation>Weitere Aktionen</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <comment>Announcement</comment>
+        <extracomment>What a screen reader says after a copy; %1 is the text that was copied</extracomment>
+        <translation>%1 kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ColorPickerWindow</name>
+    <message>
+        <source>Color Picker</source>
+        <comment>Color picker window title</comment>
+        <translation>Farbwähler</translation>
+    </message>
+    <message>
+        <source>Paste or type a color</source>
+        <comment>Convert input placeholder</comment>
+        <translation>Farbe einfügen oder eingeben</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <comment>Convert input name</comment>
+        <extracomment>Name of the field for screen readers</extracomment>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <comment>Clear input tooltip</comment>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Pick color from screen</source>
+        <comment>Eyedropper tooltip</comment>
+        <translation>Farbe vom Bildschirm aufnehmen</translation>
+    </message>
+    <message>
+        <source>Copy color</source>
+        <comment>Copy button tooltip</comment>
+        <translation>Farbe kopieren</translation>
+    </message>
+    <message>
+        <source>Close dialog after copying</source>
+        <comment>Close-on-copy tooltip</comment>
+        <translation>Fenster nach dem Kopieren schließen</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ColorPickerWindowController</name>
+    <message>
+        <source>Copied %1</source>
+        <comment>Announcement</comment>
+        <extracomment>What a screen reader says after a copy; %1 is the text that was copied</extracomment>
+        <translation>%1 kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ContrastActionMenu</name>
+    <message>
+        <source>Copy As</source>
+        <comment>Action menu section</comment>
+        <translation>Kopieren als</translation>
+    </message>
+    <message>
+        <source>Paste from Clipboard</source>
+        <comment>Action menu section</comment>
+        <translation>Aus Zwischenablage einfügen</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <comment>Announcement</comment>
+        <extracomment>What a screen reader says after a copy; %1 is the text that was copied</extracomment>
+        <translation>%1 kopiert</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ContrastWindow</name>
+    <message>
+        <source>Check Contrast</source>
+        <comment>Contrast window title</comment>
+        <translation>Kontrast prüfen</translation>
+    </message>
+    <message>
+        <source>Contrast algorithm</source>
+        <comment>Algorithm picker</comment>
+        <extracomment>Name of the choice between WCAG 2 and APCA for screen readers</extracomment>
+        <translation>Kontrastverfahren</translation>
+    </message>
+    <message>
+        <source>Choose how contrast is measured. WCAG 2 reports a luminance ratio; APCA reports perceptual lightness contrast (Lc).</source>
+        <comment>Algorithm picker tooltip</comment>
+        <translation>Legt fest, wie der Kontrast gemessen wird. WCAG 2 nennt ein Verhältnis der Leuchtdichten, APCA den empfundenen Helligkeitskontrast (Lc).</translation>
+    </message>
+    <message>
+        <source>Swap Colors</source>
+        <comment>Swap button</comment>
+        <translation>Farben tauschen</translation>
+    </message>
+    <message>
+        <source>Swap background and foreground</source>
+        <comment>Swap tooltip</comment>
+        <translation>Hintergrund und Vordergrund tauschen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <comment>Close button</comment>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>RATIO</source>
+        <comment>Ratio label</comment>
+        <translation>VERHÄLTNIS</translation>
+    </message>
+    <message>
+        <source>APCA</source>
+        <comment>APCA label</comment>
+        <translation>APCA</translation>
+    </message>
+    <message>
+        <source>APCA Lc — perceptual lightness contrast (APCA-W3). Sign indicates polarity (positive = dark text on light background).</source>
+        <comment>APCA help</comment>
+        <translation>APCA Lc – empfundener Helligkeitskontrast (APCA-W3). Das Vorzeichen nennt die Polarität (positiv = dunkler Text auf hellem Grund).</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::EmptyState</name>
+    <message>
+        <source>Pick a color to see every format</source>
+        <comment>Empty state heading</comment>
+        <translation>Eine Farbe aufnehmen zeigt jedes Format</translation>
+    </message>
+    <message>
+        <source>Then copy the format you need and carry on!</source>
+        <comment>Empty state subtitle</comment>
+        <translation>Dann das passende Format kopieren und weiter!</translation>
+    </message>
+</context>
+<context>
     <name>dropshade::EtcdClient</name>
     <message>
         <source>The server doesn&apos;t answer as etcd does.</source>
+        <extracomment>Something else than etcd, a program that keeps shared values, is at the address.</extracomment>
         <translation>Der Server antwortet nicht wie etcd.</translation>
     </message>
     <message>
@@ -743,6 +964,7 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
     <message>
         <source>The server&apos;s address must begin with https, or others could read the password on its way.</source>
+        <extracomment>Shown in the settings of sync, for an address that begins with http.</extracomment>
         <translation>Die Serveradresse muss mit https beginnen, sonst könnten andere das Passwort unterwegs lesen.</translation>
     </message>
     <message>
@@ -752,6 +974,7 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
     <message>
         <source>The server doesn&apos;t answer.</source>
+        <extracomment>Nothing came from the server of sync in time.</extracomment>
         <translation>Der Server antwortet nicht.</translation>
     </message>
     <message>
@@ -761,22 +984,27 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
     <message>
         <source>The value is too large for the server.</source>
+        <extracomment>The server of sync has a limit for each value.</extracomment>
         <translation>Der Wert ist zu groß für den Server.</translation>
     </message>
     <message>
         <source>The server has no room left.</source>
+        <extracomment>The server of sync has a limit for all values.</extracomment>
         <translation>Auf dem Server ist kein Platz mehr.</translation>
     </message>
     <message>
         <source>The server asks for a user name and a password.</source>
+        <extracomment>The account of sync has no user, or no password.</extracomment>
         <translation>Der Server verlangt Benutzername und Passwort.</translation>
     </message>
     <message>
         <source>The server doesn&apos;t accept this user name and password.</source>
+        <extracomment>Of the account of sync.</extracomment>
         <translation>Der Server nimmt Benutzername und Passwort nicht an.</translation>
     </message>
     <message>
         <source>This user may not read or write these keys.</source>
+        <extracomment>Of the account of sync; the keys are those that its values lie under.</extracomment>
         <translation>Dieser Benutzer darf diese Schlüssel nicht lesen oder schreiben.</translation>
     </message>
     <message>
@@ -786,6 +1014,7 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
     <message>
         <source>The server has ended the connection.</source>
+        <extracomment>The server of sync; another connection is made.</extracomment>
         <translation>Der Server hat die Verbindung beendet.</translation>
     </message>
 </context>
@@ -808,6 +1037,23 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
 </context>
 <context>
+    <name>dropshade::FormatList</name>
+    <message>
+        <source>Couldn&apos;t parse this color. Try a hex (#ff0080), rgb(), hsl(), or a CSS color name.</source>
+        <comment>Convert parse error</comment>
+        <translation>Das ist keine lesbare Farbe. Möglich sind Hex (#ff0080), rgb(), hsl() oder ein CSS-Farbname.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::FormatRow</name>
+    <message>
+        <source>Copy as %1</source>
+        <comment>Convert row tooltip</comment>
+        <extracomment>%1 is the name of a format, such as &quot;CSS RGB&quot;</extracomment>
+        <translation>Als %1 kopieren</translation>
+    </message>
+</context>
+<context>
     <name>dropshade::HueSlider</name>
     <message>
         <source>Hue</source>
@@ -820,6 +1066,38 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
         <comment>Hue value</comment>
         <extracomment>Value of the hue slider for screen readers; %1 is a whole number of degrees</extracomment>
         <translation>%1 Grad</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ImageZone</name>
+    <message>
+        <source>Drop an image, paste, or click to browse</source>
+        <extracomment>In the zone that takes an image</extracomment>
+        <translation>Bild ablegen, einfügen oder zum Auswählen klicken</translation>
+    </message>
+    <message>
+        <source>PNG, JPEG, HEIC, TIFF, GIF, BMP, or WebP</source>
+        <extracomment>The kinds of images that are taken</extracomment>
+        <translation>PNG, JPEG, HEIC, TIFF, GIF, BMP oder WebP</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::InlineColorWell</name>
+    <message>
+        <source>Edit color</source>
+        <comment>Color picker tooltip</comment>
+        <extracomment>Name of the popover that edits a color, for screen readers</extracomment>
+        <translation>Farbe bearbeiten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>Color picker cancel</comment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <comment>Color picker confirm</comment>
+        <translation>Fertig</translation>
     </message>
 </context>
 <context>
@@ -895,6 +1173,69 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
         <source>Couldn&apos;t read this image.</source>
         <extracomment>Shown where an image is one, but has no pixels to take colours from.</extracomment>
         <translation>Dieses Bild konnte nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::NewPaletteFromImageView</name>
+    <message>
+        <source>New Palette from Image</source>
+        <extracomment>Title of the sheet that makes a palette from an image</extracomment>
+        <translation>Neue Palette aus Bild</translation>
+    </message>
+    <message>
+        <source>Algorithm</source>
+        <extracomment>The way in which the colours are found</extracomment>
+        <translation>Verfahren</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <extracomment>The order of the colours</extracomment>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>How many colours the palette will have</extracomment>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <extracomment>The sign that colours are being worked out, to a screen reader</extracomment>
+        <translation>In Arbeit</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <extracomment>To a screen reader: a colour&apos;s text is on the clipboard</extracomment>
+        <translation>%1 kopiert</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>The name of the palette to be</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Closes the sheet without a palette</extracomment>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Create Palette</source>
+        <extracomment>Makes the palette and closes the sheet</extracomment>
+        <translation>Palette erstellen</translation>
+    </message>
+    <message>
+        <source>Image %1</source>
+        <extracomment>The image that the palette comes from, to a screen reader; %1 is its file&apos;s name</extracomment>
+        <translation>Bild %1</translation>
+    </message>
+    <message>
+        <source>Choose an Image</source>
+        <extracomment>Title of the panel that asks for an image</extracomment>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <extracomment>Kind of file in a panel</extracomment>
+        <translation>Bilder</translation>
     </message>
 </context>
 <context>
@@ -1050,6 +1391,7 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     </message>
     <message>
         <source>Tip: Set a hotkey in Settings to open Palettes from anywhere.</source>
+        <extracomment>Where no keyboard shortcut is set</extracomment>
         <translation>Tipp: Ein Tastenkürzel aus den Einstellungen öffnet von überall die Paletten.</translation>
     </message>
 </context>
@@ -1135,11 +1477,12 @@ Name of the list for screen readers</extracomment>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>Button of an alert</extracomment>
         <translation>Löschen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Buttons of an alert</extracomment>
+        <extracomment>Button of an alert</extracomment>
         <translation>Abbrechen</translation>
     </message>
 </context>
@@ -1164,6 +1507,28 @@ Name of the list for screen readers</extracomment>
         <source>Add</source>
         <extracomment>Default button of the sheet with the presets</extracomment>
         <translation>Hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PreviewStrip</name>
+    <message>
+        <source>Preview</source>
+        <extracomment>Name of the colours of the new palette for screen readers</extracomment>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Load an image to generate a palette.</source>
+        <extracomment>Stands in place of the colours while there are none</extracomment>
+        <translation>Ein geladenes Bild ergibt hier eine Palette.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PreviewSwatch</name>
+    <message>
+        <source>Color preview</source>
+        <comment>Convert window</comment>
+        <extracomment>Name of the large swatch of the convert window for screen readers</extracomment>
+        <translation>Farbvorschau</translation>
     </message>
 </context>
 <context>
@@ -1300,6 +1665,21 @@ Setting</extracomment>
         <source>Activate from anywhere with the press of a button</source>
         <extracomment>Footer of the section of shortcuts</extracomment>
         <translation>Von überall mit einem Tastendruck</translation>
+    </message>
+    <message>
+        <source>This desktop keeps shortcuts to itself. In its keyboard settings, make a shortcut of your own and paste the command there.</source>
+        <extracomment>Footer of the section of shortcuts</extracomment>
+        <translation>Dieser Desktop behält Tastenkürzel für sich. In seinen Tastatureinstellungen lässt sich ein eigenes Kürzel anlegen und der Befehl dort einfügen.</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <extracomment>Button that puts the command of an action on the clipboard</extracomment>
+        <translation>Befehl kopieren</translation>
+    </message>
+    <message>
+        <source>Copy the Command of %1</source>
+        <extracomment>The same button for screen readers; %1 is what the command does</extracomment>
+        <translation>Befehl für %1 kopieren</translation>
     </message>
 </context>
 <context>

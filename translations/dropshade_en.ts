@@ -200,6 +200,14 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
 </context>
 <context>
+    <name>ImageZone</name>
+    <message>
+        <source>Remove image</source>
+        <extracomment>Tooltip of the button that takes the image out again</extracomment>
+        <translation>Remove image</translation>
+    </message>
+</context>
+<context>
     <name>ImportedNames</name>
     <message>
         <source>Imported Palette</source>
@@ -416,6 +424,44 @@ No accounts. No subscriptions. No telemetry.</translation>
         <source>All Files (*)</source>
         <comment>Filter of a file panel</comment>
         <translation>All Files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>Quantizer</name>
+    <message>
+        <source>K-means</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>K-means</translation>
+    </message>
+    <message>
+        <source>Median cut</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Median cut</translation>
+    </message>
+    <message>
+        <source>Octree</source>
+        <extracomment>A way to find the colours of an image</extracomment>
+        <translation>Octree</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <extracomment>An order of colours: the most frequent first</extracomment>
+        <translation>Frequency</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>Light to dark</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Light to dark</translation>
+    </message>
+    <message>
+        <source>Dark to light</source>
+        <extracomment>An order of colours</extracomment>
+        <translation>Dark to light</translation>
     </message>
 </context>
 <context>
@@ -731,9 +777,184 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
 </context>
 <context>
+    <name>dropshade::ColorInputRow</name>
+    <message>
+        <source>Background</source>
+        <comment>Field label</comment>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Foreground</source>
+        <comment>Field label</comment>
+        <translation>Foreground</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t parse this color</source>
+        <comment>Invalid color tooltip</comment>
+        <translation>Couldn&apos;t parse this color</translation>
+    </message>
+    <message>
+        <source>Pick color from screen</source>
+        <comment>Eyedropper tooltip</comment>
+        <translation>Pick color from screen</translation>
+    </message>
+    <message>
+        <source>%1 — pick color from screen</source>
+        <comment>Eyedropper name</comment>
+        <extracomment>%1 is the field&apos;s label</extracomment>
+        <translation>%1 — pick color from screen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <comment>Copy button tooltip</comment>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>More actions</source>
+        <comment>Action menu tooltip</comment>
+        <translation>More actions</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <comment>Announcement</comment>
+        <extracomment>What a screen reader says after a copy; %1 is the text that was copied</extracomment>
+        <translation>Copied %1</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ColorPickerWindow</name>
+    <message>
+        <source>Color Picker</source>
+        <comment>Color picker window title</comment>
+        <translation>Color Picker</translation>
+    </message>
+    <message>
+        <source>Paste or type a color</source>
+        <comment>Convert input placeholder</comment>
+        <translation>Paste or type a color</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <comment>Convert input name</comment>
+        <extracomment>Name of the field for screen readers</extracomment>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <comment>Clear input tooltip</comment>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Pick color from screen</source>
+        <comment>Eyedropper tooltip</comment>
+        <translation>Pick color from screen</translation>
+    </message>
+    <message>
+        <source>Copy color</source>
+        <comment>Copy button tooltip</comment>
+        <translation>Copy color</translation>
+    </message>
+    <message>
+        <source>Close dialog after copying</source>
+        <comment>Close-on-copy tooltip</comment>
+        <translation>Close dialog after copying</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ColorPickerWindowController</name>
+    <message>
+        <source>Copied %1</source>
+        <comment>Announcement</comment>
+        <extracomment>What a screen reader says after a copy; %1 is the text that was copied</extracomment>
+        <translation>Copied %1</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ContrastActionMenu</name>
+    <message>
+        <source>Copy As</source>
+        <comment>Action menu section</comment>
+        <translation>Copy As</translation>
+    </message>
+    <message>
+        <source>Paste from Clipboard</source>
+        <comment>Action menu section</comment>
+        <translation>Paste from Clipboard</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <comment>Announcement</comment>
+        <extracomment>What a screen reader says after a copy; %1 is the text that was copied</extracomment>
+        <translation>Copied %1</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ContrastWindow</name>
+    <message>
+        <source>Check Contrast</source>
+        <comment>Contrast window title</comment>
+        <translation>Check Contrast</translation>
+    </message>
+    <message>
+        <source>Contrast algorithm</source>
+        <comment>Algorithm picker</comment>
+        <extracomment>Name of the choice between WCAG 2 and APCA for screen readers</extracomment>
+        <translation>Contrast algorithm</translation>
+    </message>
+    <message>
+        <source>Choose how contrast is measured. WCAG 2 reports a luminance ratio; APCA reports perceptual lightness contrast (Lc).</source>
+        <comment>Algorithm picker tooltip</comment>
+        <translation>Choose how contrast is measured. WCAG 2 reports a luminance ratio; APCA reports perceptual lightness contrast (Lc).</translation>
+    </message>
+    <message>
+        <source>Swap Colors</source>
+        <comment>Swap button</comment>
+        <translation>Swap Colors</translation>
+    </message>
+    <message>
+        <source>Swap background and foreground</source>
+        <comment>Swap tooltip</comment>
+        <translation>Swap background and foreground</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <comment>Close button</comment>
+        <translation>Done</translation>
+    </message>
+    <message>
+        <source>RATIO</source>
+        <comment>Ratio label</comment>
+        <translation>RATIO</translation>
+    </message>
+    <message>
+        <source>APCA</source>
+        <comment>APCA label</comment>
+        <translation>APCA</translation>
+    </message>
+    <message>
+        <source>APCA Lc — perceptual lightness contrast (APCA-W3). Sign indicates polarity (positive = dark text on light background).</source>
+        <comment>APCA help</comment>
+        <translation>APCA Lc — perceptual lightness contrast (APCA-W3). Sign indicates polarity (positive = dark text on light background).</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::EmptyState</name>
+    <message>
+        <source>Pick a color to see every format</source>
+        <comment>Empty state heading</comment>
+        <translation>Pick a color to see every format</translation>
+    </message>
+    <message>
+        <source>Then copy the format you need and carry on!</source>
+        <comment>Empty state subtitle</comment>
+        <translation>Then copy the format you need and carry on!</translation>
+    </message>
+</context>
+<context>
     <name>dropshade::EtcdClient</name>
     <message>
         <source>The server doesn&apos;t answer as etcd does.</source>
+        <extracomment>Something else than etcd, a program that keeps shared values, is at the address.</extracomment>
         <translation>The server doesn&apos;t answer as etcd does.</translation>
     </message>
     <message>
@@ -743,6 +964,7 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
     <message>
         <source>The server&apos;s address must begin with https, or others could read the password on its way.</source>
+        <extracomment>Shown in the settings of sync, for an address that begins with http.</extracomment>
         <translation>The server&apos;s address must begin with https, or others could read the password on its way.</translation>
     </message>
     <message>
@@ -752,6 +974,7 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
     <message>
         <source>The server doesn&apos;t answer.</source>
+        <extracomment>Nothing came from the server of sync in time.</extracomment>
         <translation>The server doesn&apos;t answer.</translation>
     </message>
     <message>
@@ -761,22 +984,27 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
     <message>
         <source>The value is too large for the server.</source>
+        <extracomment>The server of sync has a limit for each value.</extracomment>
         <translation>The value is too large for the server.</translation>
     </message>
     <message>
         <source>The server has no room left.</source>
+        <extracomment>The server of sync has a limit for all values.</extracomment>
         <translation>The server has no room left.</translation>
     </message>
     <message>
         <source>The server asks for a user name and a password.</source>
+        <extracomment>The account of sync has no user, or no password.</extracomment>
         <translation>The server asks for a user name and a password.</translation>
     </message>
     <message>
         <source>The server doesn&apos;t accept this user name and password.</source>
+        <extracomment>Of the account of sync.</extracomment>
         <translation>The server doesn&apos;t accept this user name and password.</translation>
     </message>
     <message>
         <source>This user may not read or write these keys.</source>
+        <extracomment>Of the account of sync; the keys are those that its values lie under.</extracomment>
         <translation>This user may not read or write these keys.</translation>
     </message>
     <message>
@@ -786,6 +1014,7 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
     <message>
         <source>The server has ended the connection.</source>
+        <extracomment>The server of sync; another connection is made.</extracomment>
         <translation>The server has ended the connection.</translation>
     </message>
 </context>
@@ -808,6 +1037,23 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
 </context>
 <context>
+    <name>dropshade::FormatList</name>
+    <message>
+        <source>Couldn&apos;t parse this color. Try a hex (#ff0080), rgb(), hsl(), or a CSS color name.</source>
+        <comment>Convert parse error</comment>
+        <translation>Couldn&apos;t parse this color. Try a hex (#ff0080), rgb(), hsl(), or a CSS color name.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::FormatRow</name>
+    <message>
+        <source>Copy as %1</source>
+        <comment>Convert row tooltip</comment>
+        <extracomment>%1 is the name of a format, such as &quot;CSS RGB&quot;</extracomment>
+        <translation>Copy as %1</translation>
+    </message>
+</context>
+<context>
     <name>dropshade::HueSlider</name>
     <message>
         <source>Hue</source>
@@ -820,6 +1066,38 @@ No accounts. No subscriptions. No telemetry.</translation>
         <comment>Hue value</comment>
         <extracomment>Value of the hue slider for screen readers; %1 is a whole number of degrees</extracomment>
         <translation>%1 degrees</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::ImageZone</name>
+    <message>
+        <source>Drop an image, paste, or click to browse</source>
+        <extracomment>In the zone that takes an image</extracomment>
+        <translation>Drop an image, paste, or click to browse</translation>
+    </message>
+    <message>
+        <source>PNG, JPEG, HEIC, TIFF, GIF, BMP, or WebP</source>
+        <extracomment>The kinds of images that are taken</extracomment>
+        <translation>PNG, JPEG, HEIC, TIFF, GIF, BMP, or WebP</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::InlineColorWell</name>
+    <message>
+        <source>Edit color</source>
+        <comment>Color picker tooltip</comment>
+        <extracomment>Name of the popover that edits a color, for screen readers</extracomment>
+        <translation>Edit color</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <comment>Color picker cancel</comment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <comment>Color picker confirm</comment>
+        <translation>Done</translation>
     </message>
 </context>
 <context>
@@ -895,6 +1173,69 @@ No accounts. No subscriptions. No telemetry.</translation>
         <source>Couldn&apos;t read this image.</source>
         <extracomment>Shown where an image is one, but has no pixels to take colours from.</extracomment>
         <translation>Couldn&apos;t read this image.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::NewPaletteFromImageView</name>
+    <message>
+        <source>New Palette from Image</source>
+        <extracomment>Title of the sheet that makes a palette from an image</extracomment>
+        <translation>New Palette from Image</translation>
+    </message>
+    <message>
+        <source>Algorithm</source>
+        <extracomment>The way in which the colours are found</extracomment>
+        <translation>Algorithm</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <extracomment>The order of the colours</extracomment>
+        <translation>Sort by</translation>
+    </message>
+    <message>
+        <source>Colors</source>
+        <extracomment>How many colours the palette will have</extracomment>
+        <translation>Colors</translation>
+    </message>
+    <message>
+        <source>Working</source>
+        <extracomment>The sign that colours are being worked out, to a screen reader</extracomment>
+        <translation>Working</translation>
+    </message>
+    <message>
+        <source>Copied %1</source>
+        <extracomment>To a screen reader: a colour&apos;s text is on the clipboard</extracomment>
+        <translation>Copied %1</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <extracomment>The name of the palette to be</extracomment>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <extracomment>Closes the sheet without a palette</extracomment>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Create Palette</source>
+        <extracomment>Makes the palette and closes the sheet</extracomment>
+        <translation>Create Palette</translation>
+    </message>
+    <message>
+        <source>Image %1</source>
+        <extracomment>The image that the palette comes from, to a screen reader; %1 is its file&apos;s name</extracomment>
+        <translation>Image %1</translation>
+    </message>
+    <message>
+        <source>Choose an Image</source>
+        <extracomment>Title of the panel that asks for an image</extracomment>
+        <translation>Choose an Image</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <extracomment>Kind of file in a panel</extracomment>
+        <translation>Images</translation>
     </message>
 </context>
 <context>
@@ -1050,6 +1391,7 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
     <message>
         <source>Tip: Set a hotkey in Settings to open Palettes from anywhere.</source>
+        <extracomment>Where no keyboard shortcut is set</extracomment>
         <translation>Tip: Set a hotkey in Settings to open Palettes from anywhere.</translation>
     </message>
 </context>
@@ -1135,11 +1477,12 @@ Name of the list for screen readers</extracomment>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>Button of an alert</extracomment>
         <translation>Delete</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <extracomment>Buttons of an alert</extracomment>
+        <extracomment>Button of an alert</extracomment>
         <translation>Cancel</translation>
     </message>
 </context>
@@ -1164,6 +1507,28 @@ Name of the list for screen readers</extracomment>
         <source>Add</source>
         <extracomment>Default button of the sheet with the presets</extracomment>
         <translation>Add</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PreviewStrip</name>
+    <message>
+        <source>Preview</source>
+        <extracomment>Name of the colours of the new palette for screen readers</extracomment>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Load an image to generate a palette.</source>
+        <extracomment>Stands in place of the colours while there are none</extracomment>
+        <translation>Load an image to generate a palette.</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::PreviewSwatch</name>
+    <message>
+        <source>Color preview</source>
+        <comment>Convert window</comment>
+        <extracomment>Name of the large swatch of the convert window for screen readers</extracomment>
+        <translation>Color preview</translation>
     </message>
 </context>
 <context>
@@ -1300,6 +1665,21 @@ Setting</extracomment>
         <source>Activate from anywhere with the press of a button</source>
         <extracomment>Footer of the section of shortcuts</extracomment>
         <translation>Activate from anywhere with the press of a button</translation>
+    </message>
+    <message>
+        <source>This desktop keeps shortcuts to itself. In its keyboard settings, make a shortcut of your own and paste the command there.</source>
+        <extracomment>Footer of the section of shortcuts</extracomment>
+        <translation>This desktop keeps shortcuts to itself. In its keyboard settings, make a shortcut of your own and paste the command there.</translation>
+    </message>
+    <message>
+        <source>Copy Command</source>
+        <extracomment>Button that puts the command of an action on the clipboard</extracomment>
+        <translation>Copy Command</translation>
+    </message>
+    <message>
+        <source>Copy the Command of %1</source>
+        <extracomment>The same button for screen readers; %1 is what the command does</extracomment>
+        <translation>Copy the Command of %1</translation>
     </message>
 </context>
 <context>

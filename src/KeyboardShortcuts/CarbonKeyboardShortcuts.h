@@ -31,6 +31,8 @@ public:
     /// What is held now, or waits for the end of a menu or for the switch.
     [[nodiscard]] QSet<Shortcut> shortcuts() const;
 
+    [[nodiscard]] bool isAvailable() const { return m_registrar.isAvailable(); }
+
     /// `Registered` for what is held already and for what could be; nothing changes by it.
     [[nodiscard]] HotKeyRegistrar::Status statusOf(const Shortcut& shortcut);
 

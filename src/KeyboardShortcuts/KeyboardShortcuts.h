@@ -60,6 +60,9 @@ public:
     /// Also tells that a recorder began or ended to record.
     void setRecorderActive(bool isActive);
 
+    /// False where the desktop has no shortcuts for programs, so that recording one is no use.
+    [[nodiscard]] bool isAvailable() const { return m_carbon.isAvailable(); }
+
     /// What a registration of the shortcut would come to now.
     [[nodiscard]] HotKeyRegistrar::Status statusOf(const Shortcut& shortcut);
 

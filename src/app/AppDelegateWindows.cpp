@@ -177,7 +177,9 @@ SettingsViewController& AppDelegate::settingsController() {
                  [this] { syncAccountDidChange(); }},
                 m_shortcuts,
                 *platform.alerts,
-                *platform.filePanels});
+                *platform.filePanels,
+                *platform.instance,
+                *platform.pasteboard});
     }
     return *m_settingsController;
 }

@@ -8,6 +8,8 @@
 #include <QBoxLayout>
 #include <QPainter>
 
+#include <algorithm>
+
 namespace dropshade {
 namespace {
 
@@ -90,6 +92,11 @@ SettingsForm::SettingsForm(const Look& look, QWidget* parent)
 
 void SettingsForm::addSection(const QString& title) {
     m_rows->addWidget(new Heading(m_look, title, this));
+}
+
+QSize SettingsForm::minimumSizeHint() const {
+    const QSize least = QWidget::minimumSizeHint();
+    return {least.width(), heightForWidth(std::max(width(), least.width()))};
 }
 
 SettingsRow* SettingsForm::addRow(const QString& name, QWidget* control) {

@@ -47,6 +47,9 @@ public:
     /// Small words at the end of a section.
     void addFooter(const QString& words);
 
+    /// At its width: small words wrap where they must, and no row is higher than it need be.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
 private:
     class Heading;
 

@@ -9,6 +9,7 @@
 #include "app/SyncAccountView.h"
 #include "widgets/Picker.h"
 #include "widgets/SegmentedControl.h"
+#include "widgets/TextButton.h"
 #include "widgets/TextField.h"
 #include "widgets/Toggle.h"
 
@@ -148,22 +149,45 @@ void SettingsRootView::buildHotkeys() {
     //: Section of the settings
     addSection(tr("Hotkeys"));
     //: Setting: the shortcut of a command
-    addHotkey(tr("Quick Pick"), shortcutNames::pickColor);
+    addHotkey(tr("Quick Pick"), shortcutNames::pickColor, ApplicationAction::QuickPick);
     //: Setting: the shortcut of a window
-    addHotkey(tr("Color Picker"), shortcutNames::convert);
+    addHotkey(tr("Color Picker"), shortcutNames::convert, ApplicationAction::Convert);
     //: Setting: the shortcut of a window
-    addHotkey(tr("Palettes"), shortcutNames::palettes);
+    addHotkey(tr("Palettes"), shortcutNames::palettes, ApplicationAction::Palettes);
     //: Setting: the shortcut of a window
-    addHotkey(tr("Check Contrast"), shortcutNames::checkContrast);
-    //: Footer of the section of shortcuts
-    addFooter(tr("Activate from anywhere with the press of a button"));
+    addHotkey(tr("Check Contrast"), shortcutNames::checkContrast, ApplicationAction::Contrast);
+    if (m_with.shortcuts.isAvailable()) {
+        //: Footer of the section of shortcuts
+        addFooter(tr("Activate from anywhere with the press of a button"));
+    } else {
+        //: Footer of the section of shortcuts
+        addFooter(tr("This desktop keeps shortcuts to itself. In its keyboard settings, make a "
+                     "shortcut of your own and paste the command there."));
+    }
 }
 
-void SettingsRootView::addHotkey(const QString& name, const ShortcutName& shortcutName) {
+void SettingsRootView::addHotkey(const QString& name, const ShortcutName& shortcutName,
+                                 ApplicationAction action) {
+    if (!m_with.shortcuts.isAvailable()) {
+        addRow(name, makeCommandButton(name, action));
+        return;
+    }
     auto* recorder =
         new RecorderCocoa(m_with.look, {m_with.shortcuts, m_with.alerts}, shortcutName, name, this);
     recorder->setFixedWidth(pickerWidth);
     addRow(name, recorder);
+}
+
+/// The desktop itself shows and changes the keys; it needs to be told what they are to do.
+QWidget* SettingsRootView::makeCommandButton(const QString& name, ApplicationAction action) {
+    //: Button that puts the command of an action on the clipboard
+    auto* button = new TextButton(m_with.look, TextButton::Kind::Plain, tr("Copy Command"), this);
+    //: The same button for screen readers; %1 is what the command does
+    button->setAccessibleName(tr("Copy the Command of %1").arg(name));
+    button->setToolTip(m_with.instance.commandFor(action));
+    connect(button, &QAbstractButton::clicked, this,
+            [this, action] { m_with.pasteboard.setText(m_with.instance.commandFor(action)); });
+    return button;
 }
 
 void SettingsRootView::showValues() {

@@ -6,7 +6,9 @@
 #include "app/SettingsForm.h"
 #include "app/SettingsModel.h"
 #include "app/SyncAccountModel.h"
+#include "platform/ApplicationInstance.h"
 #include "platform/FilePanels.h"
+#include "platform/Pasteboard.h"
 
 namespace dropshade {
 
@@ -31,6 +33,8 @@ public:
         KeyboardShortcuts& shortcuts;
         Alerts& alerts;
         FilePanels& panels;
+        const ApplicationInstance& instance;
+        Pasteboard& pasteboard;
     };
 
     explicit SettingsRootView(const Surroundings& surroundings);
@@ -42,7 +46,8 @@ private:
     void buildHotkeys();
     Toggle* addToggle(const QString& name, void (SettingsModel::*set)(bool),
                       SettingsRow** row = nullptr);
-    void addHotkey(const QString& name, const ShortcutName& shortcutName);
+    void addHotkey(const QString& name, const ShortcutName& shortcutName, ApplicationAction action);
+    [[nodiscard]] QWidget* makeCommandButton(const QString& name, ApplicationAction action);
     void showValues();
     void showSyncStatus();
 

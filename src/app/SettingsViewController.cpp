@@ -54,9 +54,8 @@ protected:
         FloatingWindow::hideEvent(event);
     }
     void closeEvent(QCloseEvent* event) override {
-        // What is typed in a field counts when the field is left.
-        if (QWidget* field = focusWidget())
-            field->clearFocus();
+        // What is typed in a field counts when the field is left, and the next show begins anew.
+        setFocus();
         FloatingWindow::closeEvent(event);
     }
 
@@ -64,7 +63,7 @@ private:
     void fit() {
         const int most = screen()->availableGeometry().height() - screenReserve;
         const int wide = std::max(windowWidth, m_view->minimumSizeHint().width());
-        const int high = std::max(m_view->heightForWidth(wide), m_view->minimumSizeHint().height());
+        const int high = m_view->heightForWidth(wide);
         setFixedSize(wide, std::min(high, most));
     }
 
@@ -73,9 +72,7 @@ private:
 };
 
 SettingsViewController::SettingsViewController(const Surroundings& surroundings)
-    : m_look(surroundings.look), m_shortcuts(surroundings.shortcuts), m_alerts(surroundings.alerts),
-      m_panels(surroundings.panels), m_model(surroundings.model),
-      m_syncAccount(surroundings.syncAccount) {}
+    : m_with(surroundings), m_model(surroundings.model), m_syncAccount(surroundings.syncAccount) {}
 
 SettingsViewController::~SettingsViewController() = default;
 
@@ -83,9 +80,10 @@ void SettingsViewController::show() {
     m_model.reload();
     m_syncAccount.reload();
     if (!m_window) {
-        auto* view =
-            new SettingsRootView({m_look, m_model, m_syncAccount, m_shortcuts, m_alerts, m_panels});
-        m_window = std::make_unique<Window>(m_look, m_model, view);
+        auto* view = new SettingsRootView({m_with.look, m_model, m_syncAccount, m_with.shortcuts,
+                                           m_with.alerts, m_with.panels, m_with.instance,
+                                           m_with.pasteboard});
+        m_window = std::make_unique<Window>(m_with.look, m_model, view);
     }
     m_window->present();
 }

@@ -20,6 +20,8 @@ public:
         KeyboardShortcuts& shortcuts;
         Alerts& alerts;
         FilePanels& panels;
+        const ApplicationInstance& instance;
+        Pasteboard& pasteboard;
     };
 
     explicit SettingsViewController(const Surroundings& surroundings);
@@ -34,10 +36,7 @@ public:
 private:
     class Window;
 
-    const Look& m_look;
-    KeyboardShortcuts& m_shortcuts;
-    Alerts& m_alerts;
-    FilePanels& m_panels;
+    Surroundings m_with;
     SettingsModel m_model;
     SyncAccountModel m_syncAccount;
     std::unique_ptr<Window> m_window;

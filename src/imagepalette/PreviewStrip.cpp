@@ -60,8 +60,13 @@ void PreviewStrip::setColors(const std::vector<QuantizedColor>& colors) {
     }
     if (!isReachable && m_count > 0)
         m_swatches.first()->setFocusPolicy(Qt::TabFocus);
-    //: Stands in place of the colours while there are none
-    setAccessibleName(m_count > 0 ? tr("Preview") : tr("Load an image to generate a palette."));
+    if (m_count > 0) {
+        //: Name of the colours of the new palette for screen readers
+        setAccessibleName(tr("Preview"));
+    } else {
+        //: Stands in place of the colours while there are none
+        setAccessibleName(tr("Load an image to generate a palette."));
+    }
     if (heightOfRows() != before)
         updateGeometry();
     arrange();

@@ -66,7 +66,12 @@ PalettesWindow::PalettesWindow(const Look& look, const Surroundings& surrounding
     followContent();
 }
 
-PalettesWindow::~PalettesWindow() = default;
+PalettesWindow::~PalettesWindow() {
+    // A widget that is being destroyed still gets events, which these would hand to a list that is
+    // a list no more.
+    delete m_keys;
+    delete m_pointer;
+}
 
 void PalettesWindow::build() {
     m_topBar = new PalettesTopBar(look(), m_model, this);

@@ -23,6 +23,9 @@ public:
     /// no means to tell, every process is the first.
     [[nodiscard]] virtual Role claim() = 0;
 
+    /// What the user gives a desktop to run, so that a key of the desktop asks for the action.
+    [[nodiscard]] virtual QString commandFor(ApplicationAction action) const = 0;
+
 Q_SIGNALS:
     /// Somebody started the program once more.
     void activated();

@@ -55,8 +55,8 @@ public:
 
     virtual ~CloudAccounts() = default;
 
-    /// Tries whether values could be read and written there, with this password, and changes
-    /// nothing. Answers once, later, unless the check is destroyed first.
+    /// Tries whether values could be read and written there, with this password or, where that is
+    /// empty, the one that is kept. Changes nothing; answers once, later, unless destroyed first.
     [[nodiscard]] virtual std::unique_ptr<CloudCheck>
     check(const CloudAccount& account, const QString& password, Answer answer) = 0;
 

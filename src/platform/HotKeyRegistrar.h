@@ -21,6 +21,9 @@ public:
         Unavailable ///< The desktop offers none, or has no such key or modifier.
     };
 
+    /// False where the desktop gives no combination to programs and keeps the keyboard to itself.
+    [[nodiscard]] virtual bool isAvailable() const { return true; }
+
     /// Begins to report the combination as `id`, which must not be registered. Anything but
     /// `Registered` leaves nothing behind.
     [[nodiscard]] virtual Status registerHotKey(quint32 id, quint32 keyCode, quint32 modifiers) = 0;

@@ -1,5 +1,6 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
+#include "KeyboardShortcuts/RecorderCocoa.h"
 #include "app/AppDelegate.h"
 #include "app/MenuBarIconPicker.h"
 #include "app/RecentColor.h"
@@ -12,6 +13,7 @@
 #include "widgets/TextField.h"
 #include "widgets/Toggle.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -291,6 +293,42 @@ TEST_F(SettingsRootViewTest, EveryControlHasANameAndAWayToItByTheKeyboard) {
         EXPECT_TRUE(isOtherChoice || reached.contains(control))
             << qPrintable(control->accessibleName()) << control->metaObject()->className();
     }
+}
+
+TEST_F(SettingsRootViewTest, WhereTheDesktopKeepsShortcutsToItselfItGivesTheCommandsForThem) {
+    fakes.hotKeys.setAvailable(false);
+    EXPECT_TRUE(window().findChildren<RecorderCocoa*>().isEmpty());
+    QCoreApplication::processEvents();
+    click(find<TextButton>("Copy the Command of Palettes"));
+    EXPECT_EQ(fakes.pasteboard.text(), fakes.instance.commandFor(ApplicationAction::Palettes));
+}
+
+/// What a screen reader finds, from `from` downwards.
+void collect(QAccessibleInterface* from, QList<QAccessibleInterface*>& found) {
+    found.append(from);
+    for (int i = 0; i < from->childCount(); ++i) {
+        if (QAccessibleInterface* child = from->child(i))
+            collect(child, found);
+    }
+}
+
+TEST_F(SettingsRootViewTest, AScreenReaderFindsEveryControlWithItsRoleAndName) {
+    click(toggle("Sync via iCloud"));
+    QCoreApplication::processEvents();
+    QList<QAccessibleInterface*> all;
+    collect(QAccessible::queryAccessibleInterface(&window()), all);
+    QMap<QAccessible::Role, int> roles;
+    for (QAccessibleInterface* each : std::as_const(all)) {
+        if (each->state().invisible || !each->state().focusable)
+            continue;
+        ++roles[each->role()];
+        EXPECT_FALSE(each->text(QAccessible::Name).isEmpty()) << each->role();
+        EXPECT_NE(each->role(), QAccessible::Client) << qPrintable(each->text(QAccessible::Name));
+    }
+    EXPECT_GE(roles[QAccessible::RadioButton], 3);
+    EXPECT_GE(roles[QAccessible::EditableText], 2);
+    EXPECT_GE(roles[QAccessible::CheckBox], 5);
+    EXPECT_GE(roles[QAccessible::Button] + roles[QAccessible::ButtonMenu], 6);
 }
 
 } // namespace

@@ -14,6 +14,10 @@ public:
         return m_role;
     }
 
+    [[nodiscard]] QString commandFor(ApplicationAction action) const override {
+        return QStringLiteral("run action %1").arg(static_cast<int>(action));
+    }
+
     /// The answer of every later claim; the first process unless set.
     void setRole(Role role) { m_role = role; }
 

@@ -32,6 +32,9 @@ public:
         std::erase_if(m_down, [id](const auto& down) { return down.second == id; });
     }
 
+    [[nodiscard]] bool isAvailable() const override { return m_isAvailable; }
+    void setAvailable(bool isAvailable) { m_isAvailable = isAvailable; }
+
     /// Another program has the combination, or gives it back.
     void take(const Combination& combination) { m_taken.insert(combination); }
     void giveBack(const Combination& combination) { m_taken.erase(combination); }
@@ -74,6 +77,7 @@ private:
     std::map<quint32, Combination> m_combinations;
     std::map<quint32, quint32> m_down;
     quint32 m_lastId = 0;
+    bool m_isAvailable = true;
 };
 
 } // namespace dropshade

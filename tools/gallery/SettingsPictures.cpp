@@ -6,6 +6,7 @@
 #include "KeyboardShortcuts/RecorderCocoa.h"
 #include "app/AppDelegate.h"
 #include "app/SettingsReaders.h"
+#include "app/Words.h"
 #include "platform/ModifierKeys.h"
 #include "support/FakePlatform.h"
 
@@ -69,6 +70,9 @@ void bindShortcuts(KeyboardShortcuts& shortcuts, const QString& scene) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationVersion(QStringLiteral("1.0.0"));
+    QTranslator words;
+    if (loadWords(words))
+        QApplication::installTranslator(&words);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() < 4) {
         std::fputs("usage: settings_pictures light|dark default|folder|etcd|about picture.png\n",

@@ -79,6 +79,16 @@ ApplicationInstance::Role DBusApplicationInstance::claim() {
     return Role::HandedOver;
 }
 
+QString DBusApplicationInstance::commandFor(ApplicationAction action) const {
+    for (const auto& [name, known] : actions) {
+        if (known == action)
+            return QStringLiteral("gdbus call --session --dest %1 --object-path %2 --method "
+                                  "%3.ActivateAction %4 [] {}")
+                .arg(service, objectPath, interfaceName, QLatin1String(name));
+    }
+    return {};
+}
+
 } // namespace dropshade
 
 #include "DBusApplicationInstance.moc"

@@ -15,6 +15,7 @@ public:
     DBusApplicationInstance();
 
     [[nodiscard]] Role claim() override;
+    [[nodiscard]] QString commandFor(ApplicationAction action) const override;
 };
 
 } // namespace dropshade

@@ -10,6 +10,7 @@ namespace dropshade {
 /// the program's actions there.
 class NullHotKeyRegistrar : public HotKeyRegistrar {
 public:
+    [[nodiscard]] bool isAvailable() const override { return false; }
     [[nodiscard]] Status registerHotKey(quint32, quint32, quint32) override {
         return Status::Unavailable;
     }

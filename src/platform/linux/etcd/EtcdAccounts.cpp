@@ -31,6 +31,17 @@ public:
                 &m_client, [this, trouble] { end(trouble); }, Qt::QueuedConnection);
             return;
         }
+        if (account.user.isEmpty() || !password.isEmpty()) {
+            tryWith(account, password);
+            return;
+        }
+        m_lookup = std::make_unique<BackgroundCheck>(
+            [account] { return keptPassword(account); },
+            [this, account](const QString& kept) { tryWith(account, kept); });
+    }
+
+private:
+    void tryWith(const CloudAccount& account, const QString& password) {
         m_client.setPassword(password);
         m_client.logIn([this, write = idleWrite(account)](const EtcdReply& login) {
             if (login.problem != EtcdReply::Problem::None)
@@ -41,7 +52,6 @@ public:
         });
     }
 
-private:
     static QString wordsFor(const EtcdReply& reply) {
         if (reply.problem != EtcdReply::Problem::None)
             return reply.words;
@@ -57,6 +67,7 @@ private:
 
     EtcdClient m_client;
     CloudAccounts::Answer m_answer;
+    std::unique_ptr<CloudCheck> m_lookup;
 };
 
 } // namespace
