@@ -45,7 +45,10 @@ class PaletteFiles(PalettesCase):
         self.ask_for_export(extension)
         self.desktop.key("Return")
         file = self.documents / f"Sea.{extension}"
-        return wait_until(lambda: file.exists() and file.read_bytes(), file.name)
+        content = wait_until(lambda: file.exists() and file.read_bytes(), file.name)
+        wait_until(lambda: not self.find_window("Export Palette"), "the panel to go")
+        self.desktop.wait_until_still()
+        return content
 
     def wait_for_alert(self, title):
         wait_until(lambda: self.find_window(title), title)
