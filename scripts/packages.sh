@@ -9,7 +9,7 @@ build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev
     libgs-common libsecret-1-dev wl-clipboard qt6-image-formats-plugins qt6-l10n-tools qt6-tools-dev"
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth xdotool python3 python3-xlib fonts-dejavu-core"
 test_packages="mold libgtest-dev libgmock-dev libxcb-xtest0-dev python3-dbus python3-gi chromium
-    poppler-utils x11-xkb-utils sway xdg-desktop-portal x11-xserver-utils pulseaudio
+    poppler-utils x11-xkb-utils sway swaybg grim xdg-desktop-portal x11-xserver-utils pulseaudio
     pulseaudio-utils clang-format-14 git openssl locales etcd-server desktop-file-utils
     libglib2.0-bin"
 

@@ -2,50 +2,18 @@
 # SPDX-License-Identifier: MIT
 """The program on a Wayland desktop: a colour by the real portal, its text on the real clipboard."""
 
-import pathlib
-import subprocess
-import tempfile
 import unittest
 
-from dropshade_case import PROGRAM, wait_until
-from wayland_desktop import WaylandDesktop
-
-FOLDER = pathlib.Path(__file__).parent
-PANEL = str(FOLDER / "status_notifier_host.py")
-BACKEND = str(FOLDER / "color_portal_backend.py")
-PORTAL = "/usr/libexec/xdg-desktop-portal"
+from wayland_case import WaylandCase, wait_until
 
 
-class Wayland(unittest.TestCase):
+class Wayland(WaylandCase):
 
-    def setUp(self):
-        self.desktop = self.enterContext(WaylandDesktop())
-        folder = self.enterContext(tempfile.TemporaryDirectory())
-        self.desktop.start(["/usr/bin/python3", BACKEND, folder])
-        self.wait_for_name("org.freedesktop.impl.portal.desktop.dropshadetest")
-        self.portal = self.desktop.start([PORTAL], XDG_DESKTOP_PORTAL_DIR=folder)
-        self.wait_for_name("org.freedesktop.portal.Desktop")
-        self.desktop.start(["/usr/bin/python3", PANEL])
-        self.wait_for_name("org.kde.StatusNotifierWatcher")
-        self.program = self.desktop.start([PROGRAM], QT_QPA_PLATFORM="wayland")
-        wait_until(lambda: self.ask_panel("Items"), "the icon")
-
-    def wait_for_name(self, name):
-        wait_until(lambda: self.desktop.bus_has_name(name), name)
-
-    def ask_panel(self, method, *arguments):
-        result = subprocess.run(
-            ["dbus-send", "--session", "--print-reply=literal", "--dest=org.dropshade.TestHost",
-             "/StatusNotifierWatcher", f"org.dropshade.TestHost.{method}",
-             *(f"string:{argument}" for argument in arguments)],
-            env=self.desktop.environment, capture_output=True, text=True, check=False)
-        return [word for word in result.stdout.split() if word.startswith(("org.", ":"))]
+    def prepare_desktop(self):
+        self.start_portal()
 
     def pick(self):
         self.ask_panel("Click", "SecondaryActivate")
-
-    def wait_for_clipboard(self, text):
-        wait_until(lambda: self.desktop.clipboard_text() == text, f"{text} on the clipboard")
 
     def test_a_picked_color_is_on_the_clipboard_though_no_window_has_the_focus(self):
         self.pick()
