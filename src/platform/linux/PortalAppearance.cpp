@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/PortalAppearance.h"
 
+#include "platform/linux/Portal.h"
+
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -16,8 +18,6 @@ namespace dropshade {
 
 namespace {
 
-const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 /// Older portals wrap the answer in one more variant.
@@ -56,7 +56,7 @@ PortalAppearance::PortalAppearance(std::function<bool()> blendsWindows)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"),
+    bus.connect(portal::service, portal::path, settingsInterface, QStringLiteral("SettingChanged"),
                 this, SLOT(settingChanged(QDBusMessage)));
     for (const Row& row : rows)
         ask(row);
@@ -80,7 +80,7 @@ bool PortalAppearance::reducesMotion() const {
 
 void PortalAppearance::ask(const Row& row) {
     QDBusMessage question = QDBusMessage::createMethodCall(
-        portalService, portalPath, settingsInterface, QStringLiteral("Read"));
+        portal::service, portal::path, settingsInterface, QStringLiteral("Read"));
     question << QString(row.group) << QString(row.key);
     auto* call =
         new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), this);
