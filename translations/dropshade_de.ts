@@ -275,6 +275,26 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
         <extracomment>The space bar, where a key combination is shown</extracomment>
         <translation>Leertaste</translation>
     </message>
+    <message>
+        <source>Quick Pick</source>
+        <extracomment>Setting: the shortcut of a command</extracomment>
+        <translation>Schnellauswahl</translation>
+    </message>
+    <message>
+        <source>Color Picker</source>
+        <extracomment>Setting: the shortcut of a window</extracomment>
+        <translation>Farbwähler</translation>
+    </message>
+    <message>
+        <source>Palettes</source>
+        <extracomment>Setting: the shortcut of a window</extracomment>
+        <translation>Paletten</translation>
+    </message>
+    <message>
+        <source>Check Contrast</source>
+        <extracomment>Setting: the shortcut of a window</extracomment>
+        <translation>Kontrast prüfen</translation>
+    </message>
 </context>
 <context>
     <name>PaletteDrop</name>
@@ -1642,26 +1662,6 @@ Setting</extracomment>
         <translation>Tastenkürzel</translation>
     </message>
     <message>
-        <source>Quick Pick</source>
-        <extracomment>Setting: the shortcut of a command</extracomment>
-        <translation>Schnellauswahl</translation>
-    </message>
-    <message>
-        <source>Color Picker</source>
-        <extracomment>Setting: the shortcut of a window</extracomment>
-        <translation>Farbwähler</translation>
-    </message>
-    <message>
-        <source>Palettes</source>
-        <extracomment>Setting: the shortcut of a window</extracomment>
-        <translation>Paletten</translation>
-    </message>
-    <message>
-        <source>Check Contrast</source>
-        <extracomment>Setting: the shortcut of a window</extracomment>
-        <translation>Kontrast prüfen</translation>
-    </message>
-    <message>
         <source>Activate from anywhere with the press of a button</source>
         <extracomment>Footer of the section of shortcuts</extracomment>
         <translation>Von überall mit einem Tastendruck</translation>
@@ -1680,6 +1680,21 @@ Setting</extracomment>
         <source>Copy the Command of %1</source>
         <extracomment>The same button for screen readers; %1 is what the command does</extracomment>
         <translation>Befehl für %1 kopieren</translation>
+    </message>
+    <message>
+        <source>This desktop hands out shortcuts itself: choose them in the window that it opens.</source>
+        <extracomment>Footer of the section of shortcuts, where the desktop asks its user for the keys</extracomment>
+        <translation>Dieser Desktop vergibt Tastenkürzel selbst: Sie lassen sich in dem Fenster wählen, das er öffnet.</translation>
+    </message>
+    <message>
+        <source>Activate from anywhere with the press of a button. The shortcuts are the desktop’s: click one, and it shows where to change them.</source>
+        <extracomment>Footer of the section of shortcuts, where the desktop shows its settings of the keys</extracomment>
+        <translation>Von überall mit einem Tastendruck. Die Kürzel gehören dem Desktop: Ein Klick auf eines, und er zeigt, wo sie sich ändern lassen.</translation>
+    </message>
+    <message>
+        <source>Activate from anywhere with the press of a button. The shortcuts are the desktop’s: change them in its settings, where it lists Dropshade.</source>
+        <extracomment>Footer of the section of shortcuts, where only the desktop can change the keys</extracomment>
+        <translation>Von überall mit einem Tastendruck. Die Kürzel gehören dem Desktop: Sie lassen sich in seinen Einstellungen ändern, wo er Dropshade aufführt.</translation>
     </message>
 </context>
 <context>
@@ -1910,6 +1925,24 @@ Setting</extracomment>
         <source>Select All</source>
         <comment>Edit menu item</comment>
         <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>dropshade::TriggerField</name>
+    <message>
+        <source>The Desktop Asks…</source>
+        <extracomment>On the field of a shortcut, while the desktop asks the user for keys</extracomment>
+        <translation>Der Desktop fragt …</translation>
+    </message>
+    <message>
+        <source>No Shortcut</source>
+        <extracomment>On the field of a shortcut that the desktop has given none</extracomment>
+        <translation>Kein Kürzel</translation>
+    </message>
+    <message>
+        <source>Choose Shortcut…</source>
+        <extracomment>On the field of a shortcut: has the desktop ask for keys</extracomment>
+        <translation>Kürzel wählen …</translation>
     </message>
 </context>
 <context>

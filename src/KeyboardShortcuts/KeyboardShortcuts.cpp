@@ -125,17 +125,27 @@ void KeyboardShortcuts::dispatch(KeyEventType type, const Shortcut& shortcut) {
         }
         return;
     }
+    run(type, [&](const ShortcutName& name) { return getShortcut(name) == shortcut; });
+}
+
+void KeyboardShortcuts::perform(KeyEventType type, const ShortcutName& name) {
+    if (isEnabled())
+        run(type, [&](const ShortcutName& each) { return each.rawValue == name.rawValue; });
+}
+
+void KeyboardShortcuts::run(KeyEventType type,
+                            const std::function<bool(const ShortcutName&)>& isMeant) {
     // Copies: an action may add or remove actions.
     const Actions actions = type == KeyEventType::KeyDown ? m_keyDownActions : m_keyUpActions;
     for (auto entry = actions.begin(); entry != actions.end(); ++entry) {
-        if (getShortcut(entry.key()) != shortcut)
+        if (!isMeant(entry.key()))
             continue;
         for (const Action& action : entry.value())
             action();
     }
     const Streams streams = m_streams;
     for (auto entry = streams.begin(); entry != streams.end(); ++entry) {
-        if (getShortcut(entry.key()) != shortcut)
+        if (!isMeant(entry.key()))
             continue;
         for (const QPointer<ShortcutEvents>& events : entry.value()) {
             if (events)

@@ -51,6 +51,10 @@ public:
     /// The same as a queue of events, which ends when it is destroyed.
     [[nodiscard]] std::unique_ptr<ShortcutEvents> events(const ShortcutName& name);
 
+    /// Runs the name's actions as if its shortcut had gone down or up: for keys that the desktop
+    /// has bound to the name, whatever is stored under it.
+    void perform(KeyEventType type, const ShortcutName& name);
+
     /// The master switch: while false, no combination is held.
     [[nodiscard]] bool isEnabled() const { return m_carbon.isEnabled(); }
     void setEnabled(bool enabled) { m_carbon.setEnabled(enabled); }
@@ -88,6 +92,8 @@ private:
     /// The shortcuts of all names that somebody listens to.
     [[nodiscard]] QSet<Shortcut> neededShortcuts() const;
     void dispatch(KeyEventType type, const Shortcut& shortcut);
+    /// Runs the actions and fills the queues of the names that are meant.
+    void run(KeyEventType type, const std::function<bool(const ShortcutName&)>& isMeant);
     void endStream(const ShortcutName& name);
     void storeDidChange(const QString& key);
 

@@ -4,18 +4,12 @@
 
 #include "widgets/IconButton.h"
 #include "widgets/Metrics.h"
-#include "widgets/Painting.h"
-#include "widgets/TypeScale.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 
-#include <algorithm>
-
 namespace dropshade {
 namespace {
-
-constexpr int leastWidth = 130;
 
 bool isModifier(int key) {
     switch (key) {
@@ -42,7 +36,7 @@ bool isModifier(int key) {
 
 RecorderCocoa::RecorderCocoa(const Look& look, const Surroundings& surroundings,
                              const ShortcutName& name, const QString& label, QWidget* parent)
-    : Button(look, parent), m_layout(surroundings.shortcuts.layout()),
+    : KeyField(look, parent), m_layout(surroundings.shortcuts.layout()),
       m_model(
           {surroundings.shortcuts, surroundings.alerts, editMenuKeys, [] { QApplication::beep(); }},
           name),
@@ -51,8 +45,6 @@ RecorderCocoa::RecorderCocoa(const Look& look, const Surroundings& surroundings,
                                     metrics::iconButtonField, this)) {
     setAccessibleName(label);
     setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    setFont(textFont(TextStyle::Control));
     connect(this, &QAbstractButton::clicked, &m_model, &RecorderModel::beginRecording);
     connect(m_cancelButton, &QAbstractButton::clicked, &m_model, &RecorderModel::clear);
     connect(&m_model, &RecorderModel::didChange, this, &RecorderCocoa::adopt);
@@ -63,11 +55,6 @@ RecorderCocoa::RecorderCocoa(const Look& look, const Surroundings& surroundings,
 RecorderCocoa::~RecorderCocoa() {
     // Whoever listens to the end of the recording finds a whole widget.
     m_model.endRecording();
-}
-
-QSize RecorderCocoa::sizeHint() const {
-    return {leastWidth,
-            std::max(metrics::control, lineHeight(TextStyle::Control) + metrics::space12)};
 }
 
 bool RecorderCocoa::event(QEvent* event) {
@@ -87,7 +74,7 @@ bool RecorderCocoa::event(QEvent* event) {
             break;
         }
     }
-    return Button::event(event);
+    return KeyField::event(event);
 }
 
 bool RecorderCocoa::takesKey(const QKeyEvent& event) {
@@ -102,7 +89,7 @@ void RecorderCocoa::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         m_model.beginRecording();
     else
-        Button::keyPressEvent(event);
+        KeyField::keyPressEvent(event);
 }
 
 bool RecorderCocoa::eventFilter(QObject* watched, QEvent* event) {
@@ -127,31 +114,31 @@ bool RecorderCocoa::eventFilter(QObject* watched, QEvent* event) {
     default:
         break;
     }
-    return Button::eventFilter(watched, event);
+    return KeyField::eventFilter(watched, event);
 }
 
 void RecorderCocoa::showEvent(QShowEvent* event) {
     qApp->installEventFilter(this);
     if (window()->isActiveWindow())
         m_model.windowDidBecomeKey();
-    Button::showEvent(event);
+    KeyField::showEvent(event);
 }
 
 void RecorderCocoa::hideEvent(QHideEvent* event) {
     qApp->removeEventFilter(this);
     m_model.endRecording();
-    Button::hideEvent(event);
+    KeyField::hideEvent(event);
 }
 
 void RecorderCocoa::resizeEvent(QResizeEvent* event) {
-    Button::resizeEvent(event);
+    KeyField::resizeEvent(event);
     const int side = m_cancelButton->sizeHint().width();
     m_cancelButton->setGeometry(width() - side - metrics::space4, (height() - side) / 2, side,
                                 side);
 }
 
 void RecorderCocoa::focusInEvent(QFocusEvent* event) {
-    Button::focusInEvent(event);
+    KeyField::focusInEvent(event);
     // A window that comes back has the focus where it was, and nobody asked to record.
     if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
         m_model.beginRecording();
@@ -159,7 +146,7 @@ void RecorderCocoa::focusInEvent(QFocusEvent* event) {
 
 void RecorderCocoa::focusOutEvent(QFocusEvent* event) {
     m_model.endRecording();
-    Button::focusOutEvent(event);
+    KeyField::focusOutEvent(event);
 }
 
 void RecorderCocoa::takeFocus() {
@@ -171,20 +158,10 @@ void RecorderCocoa::adopt() {
     m_cancelButton->setVisible(m_model.hasShortcut());
     const bool showsShortcut = m_model.hasShortcut() && !m_model.isRecording();
     setAccessibleDescription(showsShortcut ? m_model.spokenText() : m_model.placeholder());
-    update();
-}
-
-void RecorderCocoa::paint(QPainter& painter) {
-    fillRounded(painter, rect(), cornerRadius(), filled(theme().surfaceField));
-    strokeEdge(painter, rect(), cornerRadius(), theme().lineEdge);
-    const QString text = m_model.text();
-    const bool isEmpty = text.isEmpty();
-    painter.setFont(isEmpty && !m_model.isRecording() ? textFont(TextStyle::Body) : font());
-    painter.setPen(m_model.isRecording() ? theme().accentBase
-                   : isEmpty             ? theme().textTertiary
-                                         : theme().textPrimary);
-    painter.drawText(rect(), Qt::AlignCenter,
-                     isEmpty || m_model.isRecording() ? m_model.placeholder() : text);
+    const Words kind = m_model.isRecording() ? Words::Prompt
+                       : showsShortcut       ? Words::Keys
+                                             : Words::Placeholder;
+    showWords(kind, showsShortcut ? m_model.text() : m_model.placeholder());
 }
 
 } // namespace dropshade

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KeyboardShortcuts/KeyField.h"
 #include "KeyboardShortcuts/RecorderModel.h"
-#include "widgets/Button.h"
 
 namespace dropshade {
 
@@ -11,7 +11,7 @@ class IconButton;
 
 /// The field in which a shortcut is recorded: a click, or the keyboard's coming to it, makes it
 /// listen; the button at its end clears it. See `RecorderModel`.
-class RecorderCocoa : public Button {
+class RecorderCocoa : public KeyField {
     Q_OBJECT
 
 public:
@@ -27,9 +27,6 @@ public:
 
     [[nodiscard]] RecorderModel& model() { return m_model; }
 
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
-
 protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -39,7 +36,6 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paint(QPainter& painter) override;
 
 private:
     [[nodiscard]] bool takesKey(const QKeyEvent& event);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 
+#include "KeyboardShortcuts/ShortcutActions.h"
 #include "app/LegacyPreferences.h"
 #include "app/SettingsReaders.h"
 #include "contrast/ContrastWindowController.h"
@@ -54,6 +55,8 @@ AppDelegate::AppDelegate(Platform platform)
     : m_platform(withLegacyPreferences(std::move(platform))),
       m_settings(*m_platform.defaults, *m_platform.scheduler),
       m_shortcuts(*m_platform.defaults, *m_platform.hotKeys, *m_platform.keyboardLayout),
+      m_desktopBindings({*m_platform.desktopShortcuts, m_shortcuts, *m_platform.defaults},
+                        shortcutActions()),
       m_presets(*m_platform.scheduler),
       m_colorPickerService(*m_platform.screenSampler, *m_platform.defaults),
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
@@ -87,7 +90,10 @@ void AppDelegate::applicationDidFinishLaunching() {
 }
 
 StatusMenu::Sources AppDelegate::menuSources() {
-    return {*m_platform.defaults, m_settings, m_shortcuts,
+    return {*m_platform.defaults,
+            m_settings,
+            m_shortcuts,
+            m_desktopBindings,
             [this]() -> const QList<Palette>& { return paletteStore().palettes(); },
             [this]() -> const Look& { return look(); }};
 }
@@ -119,13 +125,11 @@ void AppDelegate::connectMenu() {
 }
 
 void AppDelegate::registerShortcuts() {
-    const auto bind = [this](const ShortcutName& name, ApplicationAction action) {
-        m_shortcuts.onKeyUp(name, [this, action] { performAction(action); });
-    };
-    bind(shortcutNames::pickColor, ApplicationAction::QuickPick);
-    bind(shortcutNames::checkContrast, ApplicationAction::Contrast);
-    bind(shortcutNames::palettes, ApplicationAction::Palettes);
-    bind(shortcutNames::convert, ApplicationAction::Convert);
+    const QList<ShortcutAction> shortcuts = shortcutActions();
+    for (const ShortcutAction& shortcut : shortcuts)
+        m_shortcuts.onKeyUp(shortcut.name,
+                            [this, action = shortcut.action] { performAction(action); });
+    m_desktopBindings.start();
 }
 
 void AppDelegate::applicationWillTerminate() {

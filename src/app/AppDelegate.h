@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KeyboardShortcuts/DesktopBindings.h"
 #include "KeyboardShortcuts/KeyboardShortcuts.h"
 #include "app/AboutWindowController.h"
 #include "app/AppSettings.h"
@@ -149,6 +150,7 @@ private:
     AppSettings m_settings;
     std::unique_ptr<Look> m_look;
     KeyboardShortcuts m_shortcuts;
+    DesktopBindings m_desktopBindings;
     PalettePresets m_presets;
     std::unique_ptr<UserPaletteStore> m_paletteStore;
     std::unique_ptr<CloudSyncEngine> m_syncEngine;

@@ -176,6 +176,7 @@ SettingsViewController& AppDelegate::settingsController() {
                 {*platform.defaults, *platform.scheduler, cloudAccounts(),
                  [this] { syncAccountDidChange(); }},
                 m_shortcuts,
+                m_desktopBindings,
                 *platform.alerts,
                 *platform.filePanels,
                 *platform.instance,

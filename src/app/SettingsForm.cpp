@@ -105,11 +105,12 @@ SettingsRow* SettingsForm::addRow(const QString& name, QWidget* control) {
     return row;
 }
 
-void SettingsForm::addFooter(const QString& words) {
+Label* SettingsForm::addFooter(const QString& words) {
     m_rows->addSpacing(metrics::space8);
     auto* footer = new Label(m_look, TextStyle::Caption, Label::Tone::Secondary, words, this);
     footer->setWordWrap(true);
     m_rows->addWidget(footer);
+    return footer;
 }
 
 } // namespace dropshade

@@ -45,7 +45,7 @@ public:
     void addSection(const QString& title);
     SettingsRow* addRow(const QString& name, QWidget* control);
     /// Small words at the end of a section.
-    void addFooter(const QString& words);
+    Label* addFooter(const QString& words);
 
     /// At its width: small words wrap where they must, and no row is higher than it need be.
     [[nodiscard]] QSize minimumSizeHint() const override;

@@ -3,6 +3,7 @@
 #include "app/SettingsRootView.h"
 
 #include "KeyboardShortcuts/RecorderCocoa.h"
+#include "KeyboardShortcuts/TriggerField.h"
 #include "app/CloudSyncStatusLabel.h"
 #include "app/CopySound.h"
 #include "app/MenuBarIconPicker.h"
@@ -14,7 +15,10 @@
 #include "widgets/Toggle.h"
 
 #include <QAbstractButton>
+#include <QBoxLayout>
 #include <QLocale>
+
+#include <utility>
 
 namespace dropshade {
 namespace {
@@ -148,46 +152,82 @@ void SettingsRootView::buildFormat() {
 void SettingsRootView::buildHotkeys() {
     //: Section of the settings
     addSection(tr("Hotkeys"));
-    //: Setting: the shortcut of a command
-    addHotkey(tr("Quick Pick"), shortcutNames::pickColor, ApplicationAction::QuickPick);
-    //: Setting: the shortcut of a window
-    addHotkey(tr("Color Picker"), shortcutNames::convert, ApplicationAction::Convert);
-    //: Setting: the shortcut of a window
-    addHotkey(tr("Palettes"), shortcutNames::palettes, ApplicationAction::Palettes);
-    //: Setting: the shortcut of a window
-    addHotkey(tr("Check Contrast"), shortcutNames::checkContrast, ApplicationAction::Contrast);
-    if (m_with.shortcuts.isAvailable()) {
-        //: Footer of the section of shortcuts
-        addFooter(tr("Activate from anywhere with the press of a button"));
-    } else {
-        //: Footer of the section of shortcuts
-        addFooter(tr("This desktop keeps shortcuts to itself. In its keyboard settings, make a "
-                     "shortcut of your own and paste the command there."));
-    }
-}
-
-void SettingsRootView::addHotkey(const QString& name, const ShortcutName& shortcutName,
-                                 ApplicationAction action) {
-    if (!m_with.shortcuts.isAvailable()) {
-        addRow(name, makeCommandButton(name, action));
+    const bool areOurs = m_with.shortcuts.isAvailable();
+    const QList<ShortcutAction> shortcuts = shortcutActions();
+    for (const ShortcutAction& shortcut : shortcuts)
+        areOurs ? addRecorder(shortcut) : addDesktopKey(shortcut);
+    //: Footer of the section of shortcuts
+    m_hotkeyFooter = addFooter(tr("Activate from anywhere with the press of a button"));
+    if (areOurs)
         return;
-    }
-    auto* recorder =
-        new RecorderCocoa(m_with.look, {m_with.shortcuts, m_with.alerts}, shortcutName, name, this);
-    recorder->setFixedWidth(pickerWidth);
-    addRow(name, recorder);
+    connect(&m_with.desktopBindings, &DesktopBindings::didChange, this,
+            &SettingsRootView::showDesktopKeys);
+    showDesktopKeys();
 }
 
-/// The desktop itself shows and changes the keys; it needs to be told what they are to do.
-QWidget* SettingsRootView::makeCommandButton(const QString& name, ApplicationAction action) {
+void SettingsRootView::addRecorder(const ShortcutAction& shortcut) {
+    auto* recorder = new RecorderCocoa(m_with.look, {m_with.shortcuts, m_with.alerts},
+                                       shortcut.name, shortcut.title, this);
+    recorder->setFixedWidth(pickerWidth);
+    addRow(shortcut.title, recorder);
+}
+
+/// The desktop may begin and cease to have keys at any time.
+void SettingsRootView::addDesktopKey(const ShortcutAction& shortcut) {
+    auto* control = new QWidget(this);
+    auto* field = new TriggerField(m_with.look, m_with.desktopBindings, shortcut.name,
+                                   shortcut.title, control);
+    field->setFixedWidth(pickerWidth);
+    m_triggerFields.append(field);
+    m_commandButtons.append(makeCommandButton(shortcut));
+    auto* line = new QHBoxLayout(control);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->addWidget(field);
+    line->addWidget(m_commandButtons.last());
+    addRow(shortcut.title, control);
+}
+
+/// The user binds a key in the desktop's settings, and tells it there what it is to do.
+QWidget* SettingsRootView::makeCommandButton(const ShortcutAction& shortcut) {
     //: Button that puts the command of an action on the clipboard
     auto* button = new TextButton(m_with.look, TextButton::Kind::Plain, tr("Copy Command"), this);
     //: The same button for screen readers; %1 is what the command does
-    button->setAccessibleName(tr("Copy the Command of %1").arg(name));
-    button->setToolTip(m_with.instance.commandFor(action));
+    button->setAccessibleName(tr("Copy the Command of %1").arg(shortcut.title));
+    const QString command = m_with.instance.commandFor(shortcut.action);
+    button->setToolTip(command);
     connect(button, &QAbstractButton::clicked, this,
-            [this, action] { m_with.pasteboard.setText(m_with.instance.commandFor(action)); });
+            [this, command] { m_with.pasteboard.setText(command); });
     return button;
+}
+
+void SettingsRootView::showDesktopKeys() {
+    const DesktopShortcuts::State state = m_with.desktopBindings.state();
+    const bool hasKeys = state != DesktopShortcuts::State::Unavailable;
+    for (QWidget* field : std::as_const(m_triggerFields))
+        field->setVisible(hasKeys);
+    for (QWidget* button : std::as_const(m_commandButtons))
+        button->setVisible(!hasKeys);
+    if (!hasKeys)
+        //: Footer of the section of shortcuts
+        m_hotkeyFooter->setText(tr("This desktop keeps shortcuts to itself. In its keyboard "
+                                   "settings, make a shortcut of your own and paste the command "
+                                   "there."));
+    else if (state != DesktopShortcuts::State::Bound)
+        //: Footer of the section of shortcuts, where the desktop asks its user for the keys
+        m_hotkeyFooter->setText(tr("This desktop hands out shortcuts itself: choose them in "
+                                   "the window that it opens."));
+    else if (m_with.desktopBindings.canChange())
+        //: Footer of the section of shortcuts, where the desktop shows its settings of the keys
+        m_hotkeyFooter->setText(
+            tr("Activate from anywhere with the press of a button. The "
+               "shortcuts are the desktop’s: click one, and it shows where to change "
+               "them."));
+    else
+        //: Footer of the section of shortcuts, where only the desktop can change the keys
+        m_hotkeyFooter->setText(
+            tr("Activate from anywhere with the press of a button. The "
+               "shortcuts are the desktop’s: change them in its settings, where it "
+               "lists Dropshade."));
 }
 
 void SettingsRootView::showValues() {

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "KeyboardShortcuts/DesktopBindings.h"
 #include "KeyboardShortcuts/RecorderModel.h"
+#include "KeyboardShortcuts/ShortcutActions.h"
 #include "app/SettingsForm.h"
 #include "app/SettingsModel.h"
 #include "app/SyncAccountModel.h"
@@ -31,6 +33,7 @@ public:
         SettingsModel& model;
         SyncAccountModel& syncAccount;
         KeyboardShortcuts& shortcuts;
+        DesktopBindings& desktopBindings;
         Alerts& alerts;
         FilePanels& panels;
         const ApplicationInstance& instance;
@@ -46,8 +49,10 @@ private:
     void buildHotkeys();
     Toggle* addToggle(const QString& name, void (SettingsModel::*set)(bool),
                       SettingsRow** row = nullptr);
-    void addHotkey(const QString& name, const ShortcutName& shortcutName, ApplicationAction action);
-    [[nodiscard]] QWidget* makeCommandButton(const QString& name, ApplicationAction action);
+    void addRecorder(const ShortcutAction& shortcut);
+    void addDesktopKey(const ShortcutAction& shortcut);
+    [[nodiscard]] QWidget* makeCommandButton(const ShortcutAction& shortcut);
+    void showDesktopKeys();
     void showValues();
     void showSyncStatus();
 
@@ -68,6 +73,10 @@ private:
     SettingsRow* m_prefixRow = nullptr;
     SegmentedControl* m_precision = nullptr;
     SettingsRow* m_precisionRow = nullptr;
+    Label* m_hotkeyFooter = nullptr;
+    // Of each action one, where the desktop has the keys.
+    QList<QWidget*> m_triggerFields;
+    QList<QWidget*> m_commandButtons;
 };
 
 } // namespace dropshade

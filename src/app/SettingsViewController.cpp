@@ -81,8 +81,8 @@ void SettingsViewController::show() {
     m_syncAccount.reload();
     if (!m_window) {
         auto* view = new SettingsRootView({m_with.look, m_model, m_syncAccount, m_with.shortcuts,
-                                           m_with.alerts, m_with.panels, m_with.instance,
-                                           m_with.pasteboard});
+                                           m_with.desktopBindings, m_with.alerts, m_with.panels,
+                                           m_with.instance, m_with.pasteboard});
         m_window = std::make_unique<Window>(m_with.look, m_model, view);
     }
     m_window->present();

@@ -18,6 +18,7 @@ public:
         SettingsModel::Surroundings model;
         SyncAccountModel::Surroundings syncAccount;
         KeyboardShortcuts& shortcuts;
+        DesktopBindings& desktopBindings;
         Alerts& alerts;
         FilePanels& panels;
         const ApplicationInstance& instance;

@@ -92,7 +92,11 @@ void StatusMenu::addToolRows(ShortcutMenu& menu) {
     const auto addTool = [&](const QString& title, Icon icon, Row row, const ShortcutName& name) {
         QAction* action = addRow(menu, title, icon, row);
         action->setShortcutVisibleInContextMenu(false);
-        setShortcut(*action, m_sources.shortcuts, name);
+        // What is stored means nothing where the desktop has the keys.
+        if (m_sources.shortcuts.isAvailable())
+            setShortcut(*action, m_sources.shortcuts, name);
+        else
+            setKeyText(*action, m_sources.desktopBindings.trigger(name));
     };
     //: Menu item to open screen color sampler
     addTool(tr("Quick Pick"), Icon::MenuBar, &StatusMenu::pickColorClicked,

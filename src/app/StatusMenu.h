@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "KeyboardShortcuts/KeyboardShortcuts.h"
+#include "KeyboardShortcuts/DesktopBindings.h"
 #include "app/AppSettings.h"
 #include "app/RecentColor.h"
 #include "platform/StatusItem.h"
@@ -34,6 +34,7 @@ public:
         UserDefaults& defaults;
         AppSettings& settings;
         KeyboardShortcuts& shortcuts;
+        DesktopBindings& desktopBindings;
         /// Asked for only where there are favourites.
         std::function<const QList<Palette>&()> palettes;
         std::function<const Look&()> look;

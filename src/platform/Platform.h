@@ -8,6 +8,7 @@
 #include "platform/CloudAccount.h"
 #include "platform/CloudKeyValueStore.h"
 #include "platform/DesktopAppearance.h"
+#include "platform/DesktopShortcuts.h"
 #include "platform/FeedFetcher.h"
 #include "platform/FilePanels.h"
 #include "platform/HotKeyRegistrar.h"
@@ -35,6 +36,7 @@ struct Platform {
     std::unique_ptr<ScreenSampler> screenSampler;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<HotKeyRegistrar> hotKeys;
+    std::unique_ptr<DesktopShortcuts> desktopShortcuts;
     std::unique_ptr<KeyboardLayout> keyboardLayout;
     std::unique_ptr<SoundPlayer> soundPlayer;
     /// Another one, which plays what the user tries out.

@@ -173,6 +173,15 @@ TEST_F(AppDelegateTest, TheShortcutOfThePickSamplesOnRelease) {
     EXPECT_TRUE(fakes.screenSampler.isUp());
 }
 
+TEST_F(AppDelegateTest, AKeyOfTheDesktopSamplesOnRelease) {
+    const QString pick = shortcutNames::pickColor.rawValue;
+    fakes.desktopShortcuts.answer({{pick, QStringLiteral("F9")}});
+    fakes.desktopShortcuts.press(pick);
+    EXPECT_FALSE(delegate.isPicking());
+    fakes.desktopShortcuts.release(pick);
+    EXPECT_TRUE(delegate.isPicking());
+}
+
 TEST_F(AppDelegateTest, TheShortcutOfThePickPressedTwiceStartsOneSampler) {
     delegate.shortcuts().setShortcut(controlC, shortcutNames::pickColor);
     fakes.hotKeys.pressAndRelease(controlCKeys);

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "KeyboardShortcuts/RecorderCocoa.h"
+#include "KeyboardShortcuts/TriggerField.h"
 #include "app/AppDelegate.h"
 #include "app/MenuBarIconPicker.h"
 #include "app/RecentColor.h"
@@ -301,6 +302,74 @@ TEST_F(SettingsRootViewTest, WhereTheDesktopKeepsShortcutsToItselfItGivesTheComm
     QCoreApplication::processEvents();
     click(find<TextButton>("Copy the Command of Palettes"));
     EXPECT_EQ(fakes.pasteboard.text(), fakes.instance.commandFor(ApplicationAction::Palettes));
+}
+
+/// On a desktop that has the keys itself.
+class DesktopKeysInSettings : public SettingsRootViewTest {
+protected:
+    DesktopKeysInSettings() { fakes.hotKeys.setAvailable(false); }
+
+    [[nodiscard]] TriggerField* field() {
+        QCoreApplication::processEvents();
+        return find<TriggerField>("Quick Pick");
+    }
+    /// Words that stand in the footer alone.
+    [[nodiscard]] bool footerSays(const QString& words) {
+        const auto labels = window().findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [&words](const QLabel* label) {
+            return label->isVisible() && label->text().contains(words);
+        });
+    }
+
+    const QString pick = shortcutNames::pickColor.rawValue;
+};
+
+TEST_F(DesktopKeysInSettings, BeforeAnyAreBoundAClickHasTheDesktopAsk) {
+    fakes.desktopShortcuts.offer();
+    EXPECT_TRUE(window().findChildren<RecorderCocoa*>().isEmpty());
+    EXPECT_EQ(field()->accessibleDescription(), QStringLiteral("Choose Shortcut…"));
+    EXPECT_FALSE(find<TextButton>("Copy the Command of Palettes")->isVisible());
+    click(field());
+    EXPECT_EQ(fakes.desktopShortcuts.state(), DesktopShortcuts::State::Asking);
+    EXPECT_FALSE(field()->isEnabled());
+}
+
+TEST_F(DesktopKeysInSettings, TheDesktopsTriggerStandsInPlaceOfTheRecorder) {
+    fakes.desktopShortcuts.answer({{pick, QStringLiteral("Meta+Shift+C")}});
+    EXPECT_EQ(field()->accessibleDescription(), QStringLiteral("Meta+Shift+C"));
+    EXPECT_EQ(find<TriggerField>("Palettes")->accessibleDescription(), QStringLiteral("No Shortcut"));
+    EXPECT_FALSE(field()->isEnabled());
+    EXPECT_TRUE(footerSays(QStringLiteral("change them in its settings")));
+}
+
+TEST_F(DesktopKeysInSettings, AChangeInTheDesktopShowsInTheOpenWindow) {
+    fakes.desktopShortcuts.answer({{pick, QStringLiteral("F9")}});
+    ASSERT_TRUE(field()->isVisible());
+    fakes.desktopShortcuts.answer({{pick, QStringLiteral("F7")}});
+    EXPECT_EQ(field()->accessibleDescription(), QStringLiteral("F7"));
+    fakes.desktopShortcuts.vanish();
+    EXPECT_FALSE(field()->isVisible());
+    EXPECT_TRUE(find<TextButton>("Copy the Command of Palettes")->isVisible());
+    EXPECT_TRUE(footerSays(QStringLiteral("keeps shortcuts to itself")));
+}
+
+TEST_F(DesktopKeysInSettings, WhereTheDesktopShowsItsSettingsAClickOrTheSpaceBarOpensThem) {
+    fakes.desktopShortcuts.setCanConfigure(true);
+    fakes.desktopShortcuts.answer({{pick, QStringLiteral("F9")}});
+    EXPECT_TRUE(footerSays(QStringLiteral("click one")));
+    click(field());
+    EXPECT_EQ(fakes.desktopShortcuts.configurations(), 1);
+    field()->setFocus();
+    QTest::keyClick(field(), Qt::Key_Space);
+    EXPECT_EQ(fakes.desktopShortcuts.configurations(), 2);
+}
+
+TEST_F(DesktopKeysInSettings, AVeryLongTriggerLeavesTheWindowAsItIs) {
+    fakes.desktopShortcuts.answer({{pick, QStringLiteral("F9")}});
+    const int wide = field()->width();
+    fakes.desktopShortcuts.answer({{pick, QString(400, u'W')}});
+    EXPECT_EQ(field()->width(), wide);
+    EXPECT_EQ(field()->toolTip(), QString(400, u'W'));
 }
 
 /// What a screen reader finds, from `from` downwards.

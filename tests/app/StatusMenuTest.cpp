@@ -5,6 +5,7 @@
 #include "KeyboardShortcuts/ShortcutRow.h"
 #include "app/SettingsReaders.h"
 #include "support/FakeAppearance.h"
+#include "support/FakeDesktopShortcuts.h"
 #include "support/FakeHotKeyRegistrar.h"
 #include "support/FakeKeyboardLayout.h"
 #include "support/FakeStatusItem.h"
@@ -75,9 +76,12 @@ protected:
     FakeHotKeyRegistrar keys;
     FakeKeyboardLayout layout;
     KeyboardShortcuts shortcuts{machine.defaults(), keys, layout};
+    FakeDesktopShortcuts desktopKeys;
+    DesktopBindings desktopBindings{{desktopKeys, shortcuts, machine.defaults()},
+                                    shortcutActions()};
     int paletteLoads = 0;
     StatusMenu menu{item,
-                    {machine.defaults(), machine.settings(), shortcuts,
+                    {machine.defaults(), machine.settings(), shortcuts, desktopBindings,
                      [this]() -> const QList<Palette>& {
                          ++paletteLoads;
                          return palettes;
@@ -147,6 +151,15 @@ TEST_F(StatusMenuTest, EachToolRowShowsTheShortcutOfItsOwnName) {
     for (qsizetype index = 0; index < tools.size(); ++index)
         EXPECT_EQ(keyText(*row(*opened, tools[index].second)),
                   QStringLiteral("F%1").arg(index + 1));
+}
+
+TEST_F(StatusMenuTest, WhereTheDesktopHasTheKeysItsOwnWordsForThemAreShown) {
+    keys.setAvailable(false);
+    shortcuts.setShortcut(Shortcut{8, controlKey}, shortcutNames::palettes);
+    desktopKeys.answer({{QStringLiteral("pickColor"), QStringLiteral("Meta+Shift+C")}});
+    QMenu* opened = open();
+    EXPECT_EQ(keyText(*row(*opened, QStringLiteral("Quick Pick"))), QStringLiteral("Meta+Shift+C"));
+    EXPECT_EQ(keyText(*row(*opened, QStringLiteral("Palettes…"))), QString());
 }
 
 TEST_F(StatusMenuTest, EachRowSaysWhatWasChosen) {

@@ -7,6 +7,7 @@
 #include "support/FakeAppearance.h"
 #include "support/FakeApplicationInstance.h"
 #include "support/FakeCloudAccounts.h"
+#include "support/FakeDesktopShortcuts.h"
 #include "support/FakeFeedFetcher.h"
 #include "support/FakeFilePanels.h"
 #include "support/FakeHotKeyRegistrar.h"
@@ -35,6 +36,7 @@ struct FakePlatform {
     FakeScreenSampler& screenSampler = put<FakeScreenSampler>(platform.screenSampler);
     FakeStatusItem& statusItem = put<FakeStatusItem>(platform.statusItem);
     FakeHotKeyRegistrar& hotKeys = put<FakeHotKeyRegistrar>(platform.hotKeys);
+    FakeDesktopShortcuts& desktopShortcuts = put<FakeDesktopShortcuts>(platform.desktopShortcuts);
     FakeKeyboardLayout& keyboardLayout = put<FakeKeyboardLayout>(platform.keyboardLayout);
     FakeSoundPlayer& soundPlayer = put<FakeSoundPlayer>(platform.soundPlayer);
     FakeSoundPlayer& previewPlayer = put<FakeSoundPlayer>(platform.previewPlayer);

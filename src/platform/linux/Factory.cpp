@@ -7,10 +7,12 @@
 #include "platform/linux/CompanionFiles.h"
 #include "platform/linux/DBusApplicationInstance.h"
 #include "platform/linux/LazyFeedFetcher.h"
+#include "platform/linux/NullDesktopShortcuts.h"
 #include "platform/linux/NullHotKeyRegistrar.h"
 #include "platform/linux/PoolBackgroundQueue.h"
 #include "platform/linux/PortalAppearance.h"
 #include "platform/linux/PortalScreenSampler.h"
+#include "platform/linux/PortalShortcuts.h"
 #include "platform/linux/QtScheduler.h"
 #include "platform/linux/SoundProcess.h"
 #include "platform/linux/SqliteDefaults.h"
@@ -52,6 +54,12 @@ std::unique_ptr<HotKeyRegistrar> makeHotKeys() {
     return std::make_unique<NullHotKeyRegistrar>();
 }
 
+std::unique_ptr<DesktopShortcuts> makeDesktopShortcuts() {
+    if (isX11())
+        return std::make_unique<NullDesktopShortcuts>();
+    return std::make_unique<PortalShortcuts>();
+}
+
 std::unique_ptr<SoundPlayer> makeSoundPlayer() {
     return std::make_unique<SoundProcess>(
         [] { return companionFile(QStringLiteral("dropshade-sound")); });
@@ -60,6 +68,8 @@ std::unique_ptr<SoundPlayer> makeSoundPlayer() {
 } // namespace
 
 Platform makePlatform() {
+    if (!isX11())
+        introduceToPortal();
     Platform platform;
     platform.instance = std::make_unique<DBusApplicationInstance>();
     platform.defaults = std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath());
@@ -70,6 +80,7 @@ Platform makePlatform() {
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
     platform.hotKeys = makeHotKeys();
+    platform.desktopShortcuts = makeDesktopShortcuts();
     platform.keyboardLayout = std::make_unique<XkbKeyboardLayout>();
     platform.soundPlayer = makeSoundPlayer();
     platform.previewPlayer = makeSoundPlayer();

@@ -1,0 +1,15 @@
+// Copyright (c) 2026 The Dropshade authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QKeySequence>
+#include <QString>
+
+namespace dropshade {
+
+/// The first combination of `keys` as the portal reads it, such as "CTRL+SHIFT+a":
+/// freedesktop.org's "Shortcuts Specification" 0.1, with the names of X's key symbols. Empty for a
+/// key without one.
+[[nodiscard]] QString portalTrigger(const QKeySequence& keys);
+
+} // namespace dropshade
