@@ -1944,6 +1944,16 @@ Setting</extracomment>
         <extracomment>On the field of a shortcut: has the desktop ask for keys</extracomment>
         <translation>Kürzel wählen …</translation>
     </message>
+    <message>
+        <source>This shortcut is the desktop’s.</source>
+        <extracomment>Message where only the desktop can change a shortcut</extracomment>
+        <translation>Dieses Tastenkürzel gehört dem Desktop.</translation>
+    </message>
+    <message>
+        <source>Change it in the settings of the desktop, where it lists Dropshade.</source>
+        <extracomment>Second line of the message</extracomment>
+        <translation>Es lässt sich in den Einstellungen des Desktops ändern, wo er Dropshade aufführt.</translation>
+    </message>
 </context>
 <context>
     <name>dropshade::UserPaletteStore</name>

@@ -34,9 +34,7 @@ void KeyField::showWords(Words kind, const QString& words) {
 }
 
 void KeyField::paint(QPainter& painter) {
-    // Where it only shows, it is no field to go into.
-    if (isEnabled())
-        fillRounded(painter, rect(), cornerRadius(), filled(theme().surfaceField));
+    fillRounded(painter, rect(), cornerRadius(), filled(theme().surfaceField));
     strokeEdge(painter, rect(), cornerRadius(), theme().lineEdge);
     painter.setFont(m_kind == Words::Placeholder ? textFont(TextStyle::Body) : font());
     painter.setPen(m_kind == Words::Prompt        ? theme().accentBase

@@ -4,23 +4,34 @@
 
 namespace dropshade {
 
-TriggerField::TriggerField(const Look& look, DesktopBindings& bindings, const ShortcutName& name,
-                           const QString& label, QWidget* parent)
-    : KeyField(look, parent), m_bindings(bindings), m_name(name) {
+TriggerField::TriggerField(const Look& look, const Surroundings& surroundings,
+                           const ShortcutName& name, const QString& label, QWidget* parent)
+    : KeyField(look, parent), m_with(surroundings), m_name(name) {
     setAccessibleName(label);
-    connect(this, &QAbstractButton::clicked, &bindings, &DesktopBindings::change);
-    connect(&bindings, &DesktopBindings::didChange, this, &TriggerField::adopt);
+    connect(this, &QAbstractButton::clicked, this, &TriggerField::change);
+    connect(&m_with.bindings, &DesktopBindings::didChange, this, &TriggerField::adopt);
     adopt();
 }
 
+void TriggerField::change() {
+    if (m_with.bindings.state() != DesktopShortcuts::State::Bound || m_with.bindings.canChange())
+        m_with.bindings.change();
+    else
+        //: Message where only the desktop can change a shortcut
+        m_with.alerts.warn(tr("This shortcut is the desktop’s."),
+                           //: Second line of the message
+                           tr("Change it in the settings of the desktop, where it lists "
+                              "Dropshade."));
+}
+
 void TriggerField::adopt() {
-    const QString trigger = m_bindings.trigger(m_name);
+    const QString trigger = m_with.bindings.trigger(m_name);
     if (!trigger.isEmpty())
         showWords(Words::Keys, trigger);
-    else if (m_bindings.state() == DesktopShortcuts::State::Asking)
+    else if (m_with.bindings.state() == DesktopShortcuts::State::Asking)
         //: On the field of a shortcut, while the desktop asks the user for keys
         showWords(Words::Prompt, tr("The Desktop Asks…"));
-    else if (m_bindings.state() == DesktopShortcuts::State::Bound)
+    else if (m_with.bindings.state() == DesktopShortcuts::State::Bound)
         //: On the field of a shortcut that the desktop has given none
         showWords(Words::Placeholder, tr("No Shortcut"));
     else
@@ -29,7 +40,6 @@ void TriggerField::adopt() {
     setAccessibleDescription(words());
     // As wide as the field is, the key may be longer.
     setToolTip(trigger);
-    setEnabled(m_bindings.canChange());
 }
 
 } // namespace dropshade

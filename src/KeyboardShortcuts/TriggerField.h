@@ -4,23 +4,32 @@
 
 #include "KeyboardShortcuts/DesktopBindings.h"
 #include "KeyboardShortcuts/KeyField.h"
+#include "platform/Alerts.h"
 
 namespace dropshade {
 
 /// What stands in place of a recorder where the desktop has the keys: it shows the one that the
-/// desktop has given to a name. Where that leads anywhere, a click has the desktop ask for another.
+/// desktop has given to a name. A click has the desktop ask for another or, where it can't be asked
+/// to, tells the user where it is changed.
 class TriggerField : public KeyField {
     Q_OBJECT
 
 public:
-    /// `label` is what the key is for, for screen readers. `bindings` must outlive the field.
-    TriggerField(const Look& look, DesktopBindings& bindings, const ShortcutName& name,
+    /// Both must outlive the field.
+    struct Surroundings {
+        DesktopBindings& bindings;
+        Alerts& alerts;
+    };
+
+    /// `label` is what the key is for, for screen readers.
+    TriggerField(const Look& look, const Surroundings& surroundings, const ShortcutName& name,
                  const QString& label, QWidget* parent = nullptr);
 
 private:
+    void change();
     void adopt();
 
-    DesktopBindings& m_bindings;
+    Surroundings m_with;
     ShortcutName m_name;
 };
 

@@ -175,8 +175,8 @@ void SettingsRootView::addRecorder(const ShortcutAction& shortcut) {
 /// The desktop may begin and cease to have keys at any time.
 void SettingsRootView::addDesktopKey(const ShortcutAction& shortcut) {
     auto* control = new QWidget(this);
-    auto* field = new TriggerField(m_with.look, m_with.desktopBindings, shortcut.name,
-                                   shortcut.title, control);
+    auto* field = new TriggerField(m_with.look, {m_with.desktopBindings, m_with.alerts},
+                                   shortcut.name, shortcut.title, control);
     field->setFixedWidth(pickerWidth);
     m_triggerFields.append(field);
     m_commandButtons.append(makeCommandButton(shortcut));

@@ -331,15 +331,24 @@ TEST_F(DesktopKeysInSettings, BeforeAnyAreBoundAClickHasTheDesktopAsk) {
     EXPECT_FALSE(find<TextButton>("Copy the Command of Palettes")->isVisible());
     click(field());
     EXPECT_EQ(fakes.desktopShortcuts.state(), DesktopShortcuts::State::Asking);
-    EXPECT_FALSE(field()->isEnabled());
+    EXPECT_EQ(field()->accessibleDescription(), QStringLiteral("The Desktop Asks…"));
 }
 
 TEST_F(DesktopKeysInSettings, TheDesktopsTriggerStandsInPlaceOfTheRecorder) {
     fakes.desktopShortcuts.answer({{pick, QStringLiteral("Meta+Shift+C")}});
     EXPECT_EQ(field()->accessibleDescription(), QStringLiteral("Meta+Shift+C"));
-    EXPECT_EQ(find<TriggerField>("Palettes")->accessibleDescription(), QStringLiteral("No Shortcut"));
-    EXPECT_FALSE(field()->isEnabled());
+    EXPECT_EQ(find<TriggerField>("Palettes")->accessibleDescription(),
+              QStringLiteral("No Shortcut"));
     EXPECT_TRUE(footerSays(QStringLiteral("change them in its settings")));
+}
+
+TEST_F(DesktopKeysInSettings, WhereOnlyTheDesktopChangesThemAClickTellsWhere) {
+    fakes.desktopShortcuts.answer({{pick, QStringLiteral("F9")}});
+    click(field());
+    ASSERT_EQ(fakes.alerts.shown().size(), 1);
+    EXPECT_TRUE(fakes.alerts.shown().first().text.contains(QStringLiteral("lists Dropshade")));
+    EXPECT_EQ(fakes.desktopShortcuts.state(), DesktopShortcuts::State::Bound);
+    EXPECT_EQ(fakes.desktopShortcuts.configurations(), 0);
 }
 
 TEST_F(DesktopKeysInSettings, AChangeInTheDesktopShowsInTheOpenWindow) {

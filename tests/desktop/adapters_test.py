@@ -33,6 +33,8 @@ class Adapters(unittest.TestCase):
 
     def test_the_portal_keeps_its_promises_on_a_session_bus(self):
         self.run_contract("PortalScreenSamplerTest")
+        self.run_contract("PortalShortcutsTest")
+        self.run_contract("DesktopShortcutsContractTest")
 
     def test_grabbed_keys_keep_the_contract_of_hot_keys(self):
         self.run_contract("HotKeyRegistrarContractTest")

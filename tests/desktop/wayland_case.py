@@ -12,7 +12,7 @@ from wayland_desktop import WaylandDesktop
 
 FOLDER = pathlib.Path(__file__).parent
 PANEL = str(FOLDER / "status_notifier_host.py")
-BACKEND = str(FOLDER / "color_portal_backend.py")
+BACKEND = str(FOLDER / "portal_backend.py")
 PORTAL = "/usr/libexec/xdg-desktop-portal"
 MENU = "dropshade"
 
@@ -38,10 +38,13 @@ class WaylandCase(unittest.TestCase):
 
     def start_portal(self):
         """The real portal, by which the program asks the backend of tests."""
-        folder = self.enterContext(tempfile.TemporaryDirectory())
-        self.desktop.start(["/usr/bin/python3", BACKEND, folder])
+        self.portal_folder = self.enterContext(tempfile.TemporaryDirectory())
+        self.desktop.start(["/usr/bin/python3", BACKEND, self.portal_folder])
         self.wait_for_name("org.freedesktop.impl.portal.desktop.dropshadetest")
-        self.portal = self.desktop.start([PORTAL], XDG_DESKTOP_PORTAL_DIR=folder)
+        self.run_portal()
+
+    def run_portal(self):
+        self.portal = self.desktop.start([PORTAL], XDG_DESKTOP_PORTAL_DIR=self.portal_folder)
         self.wait_for_name("org.freedesktop.portal.Desktop")
 
     def start_program(self):
