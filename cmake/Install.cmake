@@ -12,6 +12,9 @@ install(TARGETS dropshade-etcd dropshade-network LIBRARY DESTINATION "${companio
 
 install(FILES "${PROJECT_SOURCE_DIR}/resources/desktop/${application_id}.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+# What software centres show.
+install(FILES "${PROJECT_SOURCE_DIR}/resources/desktop/${application_id}.metainfo.xml"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
 # So that the desktop can start the program by asking it for an action.
 configure_file("${PROJECT_SOURCE_DIR}/resources/desktop/${application_id}.service.in"
     "${PROJECT_BINARY_DIR}/${application_id}.service" @ONLY)

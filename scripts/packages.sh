@@ -10,7 +10,7 @@ build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth xdotool python3 python3-xlib fonts-dejavu-core"
 test_packages="mold libgtest-dev libgmock-dev libxcb-xtest0-dev python3-dbus python3-gi chromium
     poppler-utils x11-xkb-utils sway swaybg grim xdg-desktop-portal x11-xserver-utils pulseaudio
-    pulseaudio-utils clang-format-14 git openssl locales etcd-server desktop-file-utils
+    pulseaudio-utils clang-format-14 git openssl locales etcd-server desktop-file-utils appstream
     libglib2.0-bin gnome-keyring"
 
 say() { printf '%s\n' "$*"; }

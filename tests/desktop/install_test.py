@@ -16,6 +16,7 @@ from dropshade_case import VirtualDesktop, wait_until
 BUILD = sys.argv.pop() if len(sys.argv) > 2 else "build/release"
 CMAKE = sys.argv.pop() if len(sys.argv) > 1 else "cmake"
 ENTRY = "share/applications/org.dropshade.Dropshade.desktop"
+METAINFO = "share/metainfo/org.dropshade.Dropshade.metainfo.xml"
 
 
 class Install(unittest.TestCase):
@@ -31,7 +32,7 @@ class Install(unittest.TestCase):
     def test_the_program_its_parts_and_its_papers_are_there(self):
         for name in ("bin/dropshade", "lib/dropshade/dropshade-sound",
                      "lib/dropshade/dropshade-etcd.so",
-                     "lib/dropshade/dropshade-network.so", ENTRY,
+                     "lib/dropshade/dropshade-network.so", ENTRY, METAINFO,
                      "share/icons/hicolor/scalable/apps/org.dropshade.Dropshade.svg",
                      "share/dbus-1/services/org.dropshade.Dropshade.service",
                      "share/doc/Dropshade/LICENSE", "share/doc/Dropshade/licences/lucide.txt"):
@@ -42,6 +43,11 @@ class Install(unittest.TestCase):
         result = subprocess.run(["desktop-file-validate", str(entry)], capture_output=True, text=True)
         self.assertEqual((result.returncode, result.stdout), (0, ""))
         self.assertIn("\nActions=quick-pick;convert;palettes;contrast;\n", entry.read_text())
+
+    def test_what_software_centres_show_is_valid(self):
+        result = subprocess.run(["appstreamcli", "validate", "--no-net", str(self.prefix / METAINFO)],
+                                capture_output=True, text=True)
+        self.assertEqual(result.returncode, 0, result.stdout)
 
     def test_the_installed_program_starts(self):
         with VirtualDesktop() as desktop:
