@@ -24,6 +24,10 @@ public:
     /// that, such places are black. Asked each time; it does not announce a change.
     [[nodiscard]] virtual bool blendsWindows() const = 0;
 
+    /// Whether windows go where a program puts them, as opaque as it says. Where not, the desktop
+    /// places windows, and only popups have a place: beside the window that they belong to.
+    [[nodiscard]] virtual bool programsPlaceWindows() const = 0;
+
 Q_SIGNALS:
     /// One of the first three has changed.
     void didChange();

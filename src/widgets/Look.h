@@ -33,6 +33,9 @@ public:
     /// See `DesktopAppearance::blendsWindows`.
     [[nodiscard]] bool blendsWindows() const { return m_appearance.blendsWindows(); }
 
+    /// See `DesktopAppearance::programsPlaceWindows`.
+    [[nodiscard]] bool programsPlaceWindows() const { return m_appearance.programsPlaceWindows(); }
+
     /// Draws what a control of Qt's own leaves to its style: menus, scroll bars, focus rings. For
     /// `QWidget::setStyle` on each such control.
     [[nodiscard]] QStyle* style() const { return m_style.get(); }

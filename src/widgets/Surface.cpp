@@ -41,7 +41,7 @@ void Surface::moveSurface(const QPoint& corner) {
 
 void Surface::fadeIn(std::chrono::milliseconds time) {
     const auto duration = m_look.duration(time);
-    if (duration.count() > 0 && m_look.blendsWindows()) {
+    if (duration.count() > 0 && m_look.blendsWindows() && m_look.programsPlaceWindows()) {
         auto* fade = new QPropertyAnimation(this, "windowOpacity", this);
         fade->setDuration(static_cast<int>(duration.count()));
         fade->setStartValue(0.0);

@@ -13,11 +13,13 @@ public:
     [[nodiscard]] bool isHighContrast() const override { return m_highContrast; }
     [[nodiscard]] bool reducesMotion() const override { return m_reducedMotion; }
     [[nodiscard]] bool blendsWindows() const override { return m_blends; }
+    [[nodiscard]] bool programsPlaceWindows() const override { return m_programsPlaceWindows; }
 
     void setDark(bool dark) { change(m_dark, dark); }
     void setHighContrast(bool high) { change(m_highContrast, high); }
     void setReducedMotion(bool reduced) { change(m_reducedMotion, reduced); }
     void setBlendsWindows(bool blends) { m_blends = blends; }
+    void setProgramsPlaceWindows(bool place) { m_programsPlaceWindows = place; }
 
 private:
     void change(bool& field, bool value) {
@@ -31,6 +33,7 @@ private:
     bool m_highContrast = false;
     bool m_reducedMotion = false;
     bool m_blends = true;
+    bool m_programsPlaceWindows = true;
 };
 
 } // namespace dropshade

@@ -76,7 +76,7 @@ Platform makePlatform() {
     platform.scheduler = std::make_unique<QtScheduler>();
     platform.backgroundQueue = std::make_unique<PoolBackgroundQueue>();
     platform.pasteboard = makePasteboard();
-    platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended);
+    platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended, isX11());
     platform.screenSampler = makeSampler(*platform.appearance);
     platform.statusItem = std::make_unique<TrayStatusItem>();
     platform.hotKeys = makeHotKeys();

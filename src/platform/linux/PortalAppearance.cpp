@@ -51,8 +51,8 @@ const PortalAppearance::Row PortalAppearance::rows[] = {
      QLatin1String("enable-animations")},
 };
 
-PortalAppearance::PortalAppearance(std::function<bool()> blendsWindows)
-    : m_blendsWindows(std::move(blendsWindows)) {
+PortalAppearance::PortalAppearance(std::function<bool()> blendsWindows, bool programsPlaceWindows)
+    : m_blendsWindows(std::move(blendsWindows)), m_programsPlaceWindows(programsPlaceWindows) {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;

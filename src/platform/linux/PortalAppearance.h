@@ -18,13 +18,14 @@ class PortalAppearance : public DesktopAppearance {
     Q_OBJECT
 
 public:
-    /// `blendsWindows` is asked for `DesktopAppearance::blendsWindows`.
-    explicit PortalAppearance(std::function<bool()> blendsWindows);
+    /// What the portal does not tell: `blendsWindows` is asked each time.
+    PortalAppearance(std::function<bool()> blendsWindows, bool programsPlaceWindows);
 
     [[nodiscard]] bool isDark() const override;
     [[nodiscard]] bool isHighContrast() const override;
     [[nodiscard]] bool reducesMotion() const override;
     [[nodiscard]] bool blendsWindows() const override { return m_blendsWindows(); }
+    [[nodiscard]] bool programsPlaceWindows() const override { return m_programsPlaceWindows; }
 
 private Q_SLOTS:
     void settingChanged(const QDBusMessage& message);
@@ -38,6 +39,7 @@ private:
     void set(Setting setting, const QVariant& value);
 
     std::function<bool()> m_blendsWindows;
+    bool m_programsPlaceWindows;
     std::optional<bool> m_prefersDark;
     std::optional<bool> m_wantsContrast;
     std::optional<bool> m_wantsStillness;
