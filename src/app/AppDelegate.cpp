@@ -215,7 +215,7 @@ void AppDelegate::statusItemClicked(const StatusItemClick& click) {
     if (isQuickPick)
         startPick();
     else
-        m_statusMenu.show();
+        m_statusMenu.toggle();
 }
 
 void AppDelegate::pickColorClicked() {

@@ -41,12 +41,17 @@ void StatusMenu::show() {
         return;
     m_menu = buildMenu();
     connect(m_menu.get(), &QMenu::aboutToHide, this, &StatusMenu::menuWillHide);
-    const QSize size = m_menu->sizeHint();
-    // Wayland has popups for windows alone, so there the menu is a window of its own; with a fixed
-    // size, desktops that tile their windows leave it as it is.
-    if (size.height() <= QGuiApplication::primaryScreen()->availableGeometry().height())
-        m_menu->setFixedSize(size);
-    m_menu->popup(origin(size));
+    if (m_sources.look().programsPlaceWindows())
+        m_menu->popup(origin(m_menu->sizeHint()));
+    else
+        m_menu->openAsWindow(QStringLiteral("Dropshade"));
+}
+
+void StatusMenu::toggle() {
+    if (isOpen())
+        close();
+    else
+        show();
 }
 
 bool StatusMenu::isOpen() const {

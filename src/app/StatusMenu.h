@@ -44,9 +44,12 @@ public:
     ~StatusMenu() override;
 
     /// Opens the menu at the status item, or at the pointer where the desktop does not tell where
-    /// the item is. A click that has just closed the menu does not open it again. Pins of palettes
-    /// that are no more go from the settings with it.
+    /// the item is, or where the desktop puts it. A click that has just closed the menu does not
+    /// open it again. Pins of palettes that are no more go from the settings with it.
     void show();
+
+    /// Opens or closes the menu, as a click on the status item does.
+    void toggle();
 
     [[nodiscard]] bool isOpen() const;
     void close();

@@ -7,8 +7,10 @@
 #include "widgets/RoundedMask.h"
 #include "widgets/TypeScale.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QStyleOption>
+#include <QWindow>
 
 namespace dropshade {
 
@@ -16,6 +18,41 @@ namespace {
 
 constexpr int submenuGap = 2;
 constexpr const char* destructiveProperty = "destructive";
+
+/// What a popup has from the desktop, for a menu that is none: whatever happens in another window
+/// closes it and does nothing else there. The toolkit would take such a click for one in the menu,
+/// by places on a screen of which it knows nothing.
+class OutsideWatch : public QObject {
+public:
+    explicit OutsideWatch(QMenu& menu) : QObject(&menu), m_menu(menu) {
+        qGuiApp->installEventFilter(this);
+        connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* window) {
+            if (window && isOutside(*window))
+                m_menu.close();
+        });
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* window = qobject_cast<QWindow*>(watched);
+        const bool isForMouse = event->type() == QEvent::MouseButtonPress ||
+                                event->type() == QEvent::MouseMove ||
+                                event->type() == QEvent::Wheel;
+        if (!window || !isForMouse || !isOutside(*window))
+            return false;
+        if (event->type() == QEvent::MouseButtonPress)
+            m_menu.close();
+        return true;
+    }
+
+private:
+    [[nodiscard]] bool isOutside(const QWindow& window) const {
+        const QWindow* own = m_menu.windowHandle();
+        return &window != own && !own->isAncestorOf(&window);
+    }
+
+    QMenu& m_menu;
+};
 
 } // namespace
 
@@ -72,6 +109,29 @@ Menu* Menu::addSubmenu(const QString& title, std::optional<Icon> icon) {
 
 void Menu::setDestructive(QAction* row) {
     row->setProperty(destructiveProperty, true);
+}
+
+void Menu::openAsWindow(const QString& title) {
+    setWindowTitle(title);
+    const QRect room = screen()->availableGeometry();
+    // With a fixed size, desktops that tile their windows leave it as it is.
+    if (sizeHint().height() <= room.height())
+        setFixedSize(sizeHint());
+    // As a popup it would hang from whichever window of the program had the pointer last, in that
+    // window's corner.
+    setWindowSystemType(Qt::Window);
+    // Popups of the desktop's take a click or a key to open, and the pointer is enough to open
+    // these. The first of them would get the click that is meant to close them all.
+    for (Menu* submenu : findChildren<Menu*>())
+        submenu->setWindowSystemType(Qt::ToolTip);
+    new OutsideWatch(*this);
+    // Wherever it is, as far as the program knows there is room for submenus beside it.
+    popup(room.topLeft());
+}
+
+void Menu::setWindowSystemType(Qt::WindowType type) {
+    winId();
+    windowHandle()->setFlags((windowFlags() & ~Qt::WindowType_Mask) | type);
 }
 
 void Menu::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const {

@@ -33,12 +33,18 @@ public:
     /// Draws the words of `row` in red.
     void setDestructive(QAction* row);
 
+    /// Opens it as a window of its own, beside nothing, wherever the desktop puts that: for where
+    /// programs don't place windows. Another window that gets the keyboard closes it.
+    void openAsWindow(const QString& title);
+
 protected:
     void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// To the window system it is a window of that type; to the program it stays a popup.
+    void setWindowSystemType(Qt::WindowType type);
     void keepClearOfParent();
     [[nodiscard]] QIcon image(Icon icon) const;
 

@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -272,6 +273,30 @@ TEST_F(StatusMenuTest, AClickThatClosedTheMenuDoesNotOpenItAgain) {
     EXPECT_EQ(open(), nullptr);
     QTest::qWait(300);
     EXPECT_NE(open(), nullptr);
+}
+
+TEST_F(StatusMenuTest, AClickOnTheItemClosesTheMenuThatIsStillOpen) {
+    menu.toggle();
+    EXPECT_TRUE(menu.isOpen());
+    menu.toggle();
+    EXPECT_FALSE(menu.isOpen());
+}
+
+TEST_F(StatusMenuTest, ASecondStartLeavesTheOpenMenuAlone) {
+    const QPointer<QMenu> opened = open();
+    menu.show();
+    EXPECT_TRUE(menu.isOpen());
+    EXPECT_FALSE(opened.isNull());
+}
+
+TEST_F(StatusMenuTest, IsAWindowOfItsOwnWhereTheDesktopPlacesWindows) {
+    appearance.setProgramsPlaceWindows(false);
+    const QMenu* opened = open();
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(opened->windowHandle()->type(), Qt::Window);
+    EXPECT_TRUE(opened->windowHandle()->flags().testFlag(Qt::FramelessWindowHint));
+    EXPECT_EQ(opened->windowTitle(), QStringLiteral("Dropshade"));
+    EXPECT_EQ(opened->minimumSize(), opened->maximumSize());
 }
 
 TEST_F(StatusMenuTest, TheMenuIsThrownAwayOnceItHasClosed) {

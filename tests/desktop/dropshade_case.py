@@ -36,7 +36,42 @@ def hex_text(color):
     return "#%02X%02X%02X" % color
 
 
-class DropshadeCase(unittest.TestCase):
+class RunningProgram:
+    """What a test reads and keeps of the program that runs on its `self.desktop`."""
+
+    def setting(self, key):
+        """What the store holds under the key; None where it is unset or nothing was ever written."""
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        file = next(folder.rglob("defaults.sqlite"), None)
+        if not file:
+            return None
+        # The file is there a moment before its table.
+        with contextlib.closing(sqlite3.connect(file)) as settings, \
+                contextlib.suppress(sqlite3.OperationalError):
+            row = settings.execute("SELECT value FROM defaults WHERE key = ?", (key,)).fetchone()
+            return row and row[0]
+        return None
+
+    def store(self, key, value):
+        """Another process writes a truth value, a number, a string, bytes of data or a list of
+        strings, which the program made a store for."""
+        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
+        wait_until(lambda: self.setting("didImportLegacyContainerPrefs"), "the store")
+        file = next(folder.rglob("defaults.sqlite"))
+        kind, stored = stored_form(value)
+        with contextlib.closing(sqlite3.connect(file, timeout=5)) as settings, settings:
+            settings.execute("INSERT OR REPLACE INTO defaults(key, type, value) VALUES (?, ?, ?)",
+                             (key, kind, stored))
+
+    def copies_counted(self):
+        return self.setting("totalChecksCount") or 0
+
+    def save_screenshot(self, name, area=None):
+        SCREENSHOTS.mkdir(parents=True, exist_ok=True)
+        self.desktop.screenshot(str(SCREENSHOTS / name), area)
+
+
+class DropshadeCase(RunningProgram, unittest.TestCase):
     """One desktop for a class of tests; `self.program` is running and has its icon in the tray."""
 
     WIDTH, HEIGHT, DEPTH = 1280, 800, 24
@@ -118,36 +153,3 @@ class DropshadeCase(unittest.TestCase):
                       f"program ended {self.program.returncode}\n{self.desktop.output()}")
         self.wait_for_no_loupe()
         return self.desktop.clipboard_text()
-
-    # What the program remembers
-
-    def setting(self, key):
-        """What the store holds under the key; None where it is unset or nothing was ever written."""
-        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
-        file = next(folder.rglob("defaults.sqlite"), None)
-        if not file:
-            return None
-        # The file is there a moment before its table.
-        with contextlib.closing(sqlite3.connect(file)) as settings, \
-                contextlib.suppress(sqlite3.OperationalError):
-            row = settings.execute("SELECT value FROM defaults WHERE key = ?", (key,)).fetchone()
-            return row and row[0]
-        return None
-
-    def store(self, key, value):
-        """Another process writes a truth value, a number, a string, bytes of data or a list of
-        strings, which the program made a store for."""
-        folder = pathlib.Path(self.desktop.environment["XDG_CONFIG_HOME"])
-        wait_until(lambda: self.setting("didImportLegacyContainerPrefs"), "the store")
-        file = next(folder.rglob("defaults.sqlite"))
-        kind, stored = stored_form(value)
-        with contextlib.closing(sqlite3.connect(file, timeout=5)) as settings, settings:
-            settings.execute("INSERT OR REPLACE INTO defaults(key, type, value) VALUES (?, ?, ?)",
-                             (key, kind, stored))
-
-    def copies_counted(self):
-        return self.setting("totalChecksCount") or 0
-
-    def save_screenshot(self, name, area=None):
-        SCREENSHOTS.mkdir(parents=True, exist_ok=True)
-        self.desktop.screenshot(str(SCREENSHOTS / name), area)

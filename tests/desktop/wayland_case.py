@@ -7,17 +7,17 @@ import subprocess
 import tempfile
 import unittest
 
-from dropshade_case import PROGRAM, SCREENSHOTS, wait_until
+from dropshade_case import PROGRAM, RunningProgram, wait_until
 from wayland_desktop import WaylandDesktop
 
 FOLDER = pathlib.Path(__file__).parent
 PANEL = str(FOLDER / "status_notifier_host.py")
 BACKEND = str(FOLDER / "portal_backend.py")
 PORTAL = "/usr/libexec/xdg-desktop-portal"
-MENU = "dropshade"
+MENU = "Dropshade"
 
 
-class WaylandCase(unittest.TestCase):
+class WaylandCase(RunningProgram, unittest.TestCase):
     """A desktop for each test, its hand in `self.hand`, and the program running in it."""
 
     SCALE = 1
@@ -29,12 +29,18 @@ class WaylandCase(unittest.TestCase):
             WaylandDesktop(scale=self.SCALE, layout=self.LAYOUT, more=self.MORE))
         self.hand = self.desktop.hand
         self.prepare_desktop()
-        self.desktop.start(["/usr/bin/python3", PANEL])
+        self.start_panel()
         self.wait_for_name("org.kde.StatusNotifierWatcher")
         self.program = self.start_program()
 
     def prepare_desktop(self):
         """What a kind of test needs before the program starts."""
+
+    def start_panel(self):
+        self.desktop.start(["/usr/bin/python3", PANEL])
+
+    def has_icon(self):
+        return self.ask_panel("Items")
 
     def start_portal(self):
         """The real portal, by which the program asks the backend of tests."""
@@ -49,7 +55,7 @@ class WaylandCase(unittest.TestCase):
 
     def start_program(self):
         program = self.desktop.start([PROGRAM], QT_QPA_PLATFORM="wayland")
-        wait_until(lambda: self.ask_panel("Items"), "the icon")
+        wait_until(self.has_icon, "the icon")
         return program
 
     def wait_for_name(self, name):
@@ -65,8 +71,11 @@ class WaylandCase(unittest.TestCase):
 
     def open_menu(self):
         """The area of the status menu, opened by a click on the icon."""
-        self.ask_panel("Click", "Activate")
+        self.click_icon()
         return self.desktop.wait_for_window(MENU)
+
+    def click_icon(self):
+        self.ask_panel("Click", "Activate")
 
     def choose(self, row):
         """Chooses that row of the menu, counted from 1 over those that can be chosen, by keys."""
@@ -80,7 +89,3 @@ class WaylandCase(unittest.TestCase):
 
     def wait_for_clipboard(self, text):
         wait_until(lambda: self.desktop.clipboard_text() == text, f"{text} on the clipboard")
-
-    def save_screenshot(self, name, area=None):
-        SCREENSHOTS.mkdir(parents=True, exist_ok=True)
-        self.desktop.screenshot(str(SCREENSHOTS / name), area)

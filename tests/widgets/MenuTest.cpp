@@ -3,6 +3,11 @@
 #include "widgets/Menu.h"
 
 #include "support/FakeAppearance.h"
+#include "support/SignalCount.h"
+
+#include <QPushButton>
+#include <QTest>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -47,6 +52,36 @@ TEST_F(MenuTest, HasOneRowForEachThingItIsGiven) {
     m_menu.show();
     EXPECT_FALSE(m_menu.grab().isNull());
     EXPECT_EQ(m_menu.actions().size(), 2);
+}
+
+TEST_F(MenuTest, AClickInAnotherWindowClosesTheMenuThatIsAWindowAndDoesNothingElse) {
+    QPushButton other;
+    SignalCount clicks(other, &QAbstractButton::clicked);
+    other.setGeometry(0, 0, 300, 200);
+    other.show();
+    m_menu.addRow(QStringLiteral("Quit"));
+    SignalCount rows(m_menu, &QMenu::triggered);
+    m_menu.openAsWindow(QStringLiteral("Menu"));
+    // Where the row is, as far as the toolkit knows.
+    QTest::mouseClick(other.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+    EXPECT_FALSE(m_menu.isVisible());
+    EXPECT_EQ(rows.count(), 0);
+    EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(MenuTest, ASubmenuOfAMenuThatIsAWindowHangsFromIt) {
+    Menu* submenu = m_menu.addSubmenu(QStringLiteral("Recent Colors"), Icon::Clock);
+    submenu->addRow(QStringLiteral("#FF8001"));
+    SignalCount rows(*submenu, &QMenu::triggered);
+    m_menu.openAsWindow(QStringLiteral("Menu"));
+    QTest::keyClick(&m_menu, Qt::Key_Down);
+    QTest::keyClick(&m_menu, Qt::Key_Right);
+    ASSERT_TRUE(submenu->isVisible());
+    EXPECT_EQ(submenu->windowHandle()->type(), Qt::ToolTip);
+    EXPECT_EQ(submenu->windowHandle()->transientParent(), m_menu.windowHandle());
+    QTest::mouseClick(submenu->windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+    EXPECT_EQ(rows.count(), 1);
+    EXPECT_FALSE(m_menu.isVisible());
 }
 
 } // namespace
