@@ -29,6 +29,10 @@ public:
     /// the main thread. Work that is destroyed doesn't land; where it hasn't begun yet, it doesn't
     /// run either. The landing may destroy its own work.
     [[nodiscard]] virtual std::unique_ptr<BackgroundWork> run(Task task) = 0;
+
+    /// Has all work that was handed over and not cancelled run and land before it returns. For the
+    /// end of the program, when the main thread comes no more to what waits for it.
+    virtual void finish() = 0;
 };
 
 } // namespace dropshade

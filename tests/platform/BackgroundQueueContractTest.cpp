@@ -130,6 +130,16 @@ TYPED_TEST(BackgroundQueueContract, WorkMayOutliveItsQueue) {
     work.reset();
 }
 
+TYPED_TEST(BackgroundQueueContract, FinishingRunsAndLandsAllThatIsNotCancelled) {
+    int landings = 0;
+    const auto first = this->run([] {}, [&] { ++landings; });
+    const auto second = this->run([] {}, [&] { ++landings; });
+    auto cancelled = this->run([] {}, [&] { ++landings; });
+    cancelled.reset();
+    this->m_kind.queue().finish();
+    EXPECT_EQ(landings, 2);
+}
+
 TEST(ManualBackgroundQueue, DoesNotRunWhatWasCancelledBefore) {
     ManualBackgroundQueue queue;
     auto work = queue.run([](const std::stop_token&) { return [] {}; });

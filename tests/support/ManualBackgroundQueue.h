@@ -47,6 +47,8 @@ public:
         land();
     }
 
+    void finish() override { workAndLand(); }
+
     /// How many tasks have run so far.
     [[nodiscard]] int runs() const { return m_runs; }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/PoolBackgroundQueue.h"
 
+#include <QCoreApplication>
 #include <QMetaObject>
 
 #include <chrono>
@@ -51,6 +52,11 @@ std::unique_ptr<BackgroundWork> PoolBackgroundQueue::run(Task task) {
             Qt::QueuedConnection);
     });
     return std::make_unique<PoolWork>(std::move(stop));
+}
+
+void PoolBackgroundQueue::finish() {
+    m_pool.waitForDone();
+    QCoreApplication::sendPostedEvents(&m_mainThread, QEvent::MetaCall);
 }
 
 } // namespace dropshade

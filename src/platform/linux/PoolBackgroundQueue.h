@@ -17,6 +17,7 @@ public:
     ~PoolBackgroundQueue() override;
 
     [[nodiscard]] std::unique_ptr<BackgroundWork> run(Task task) override;
+    void finish() override;
 
 private:
     QThreadPool m_pool;
