@@ -371,14 +371,6 @@ No accounts. No subscriptions. No telemetry.</translation>
     </message>
 </context>
 <context>
-    <name>PaletteImageRenderer</name>
-    <message>
-        <source>Palette</source>
-        <comment>Title of a palette without a name</comment>
-        <translation>Palette</translation>
-    </message>
-</context>
-<context>
     <name>PaletteImporterError</name>
     <message>
         <source>The data isn&apos;t in the correct format.</source>
@@ -394,6 +386,14 @@ No accounts. No subscriptions. No telemetry.</translation>
         <source>The file couldn&apos;t be read as a palette. %1</source>
         <comment>Import error; %1 is the reason</comment>
         <translation>The file couldn&apos;t be read as a palette. %1</translation>
+    </message>
+</context>
+<context>
+    <name>PalettePoster</name>
+    <message>
+        <source>Palette</source>
+        <comment>Title of a palette without a name</comment>
+        <translation>Palette</translation>
     </message>
 </context>
 <context>

@@ -38,9 +38,11 @@ QByteArray content(const Palette& palette, PaletteExportFormat format) {
     case PaletteExportFormat::css:
         return PaletteTextExporter::css(palette).toUtf8();
     case PaletteExportFormat::png:
-        return rendered(PaletteImageRenderer::pngData(palette), "Failed to render PNG.");
+        return rendered(PaletteImageRenderer::pngData(PalettePoster(palette)),
+                        "Failed to render PNG.");
     case PaletteExportFormat::pdf:
-        return rendered(PaletteImageRenderer::pdfData(palette), "Failed to render PDF.");
+        return rendered(PaletteImageRenderer::pdfData(PalettePoster(palette)),
+                        "Failed to render PDF.");
     }
     Q_UNREACHABLE();
 }

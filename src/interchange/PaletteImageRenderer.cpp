@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/PaletteImageRenderer.h"
 
-#include "interchange/PalettePoster.h"
-
 #include <QBuffer>
 #include <QImage>
 #include <QImageWriter>
@@ -20,11 +18,6 @@ constexpr double pointsPerMeter = 72 / 0.0254;
 
 /// Qt's painter counts in 16 bits, so a wide picture is drawn in pieces.
 constexpr int mostPaintedPixels = 16'384;
-
-QString title(const Palette& palette, const QString& untitled) {
-    const QString name = palette.name().trimmed();
-    return name.isEmpty() ? untitled : name;
-}
 
 void prepare(QPainter& painter) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
@@ -45,9 +38,7 @@ void drawPiece(const PalettePoster& poster, QImage& picture, const QRect& piece)
 
 } // namespace
 
-std::optional<QByteArray> PaletteImageRenderer::pngData(const Palette& palette) {
-    const PalettePoster poster(palette,
-                               title(palette, tr("Palette", "Title of a palette without a name")));
+std::optional<QByteArray> PaletteImageRenderer::pngData(const PalettePoster& poster) {
     const QSizeF pixels = poster.size() * pixelsPerPoint;
     if (pixels.width() * pixels.height() * 4 > static_cast<double>(mostPixelBytes))
         return std::nullopt;
@@ -71,9 +62,7 @@ std::optional<QByteArray> PaletteImageRenderer::pngData(const Palette& palette) 
     return bytes;
 }
 
-std::optional<QByteArray> PaletteImageRenderer::pdfData(const Palette& palette) {
-    const PalettePoster poster(palette,
-                               title(palette, tr("Palette", "Title of a palette without a name")));
+std::optional<QByteArray> PaletteImageRenderer::pdfData(const PalettePoster& poster) {
     const QSizeF size = poster.size();
     QByteArray bytes;
     QBuffer buffer(&bytes);

@@ -31,6 +31,11 @@ QFont font(QFontDatabase::SystemFont kind, int size, QFont::Weight weight) {
     return font;
 }
 
+QString titleOf(const Palette& palette, const QString& untitled) {
+    const QString name = palette.name().trimmed();
+    return name.isEmpty() ? untitled : name;
+}
+
 /// A line break in a name would push the text out of its place.
 QString oneLine(QString text) {
     for (QChar& character : text) {
@@ -81,11 +86,12 @@ QColor black(double alpha) {
 
 } // namespace
 
-PalettePoster::PalettePoster(const Palette& palette, const QString& title)
+PalettePoster::PalettePoster(const Palette& palette)
     : m_titleFont(font(QFontDatabase::GeneralFont, 28, QFont::Bold)),
       m_scaleNameFont(font(QFontDatabase::GeneralFont, 13, QFont::Medium)),
       m_hexFont(font(QFontDatabase::FixedFont, 11, QFont::DemiBold)),
-      m_labelFont(font(QFontDatabase::GeneralFont, 10, QFont::Normal)), m_title(oneLine(title)),
+      m_labelFont(font(QFontDatabase::GeneralFont, 10, QFont::Normal)),
+      m_title(oneLine(titleOf(palette, tr("Palette", "Title of a palette without a name")))),
       m_scales(palette.scales()), m_titleHeight(std::ceil(lineHeight(m_titleFont))) {
     for (const PaletteScale& scale : m_scales) {
         m_maxSwatches = std::max(m_maxSwatches, scale.swatches().size());

@@ -4,6 +4,7 @@
 
 #include "palettes/Palette.h"
 
+#include <QCoreApplication>
 #include <QFont>
 #include <QPainter>
 
@@ -11,10 +12,14 @@ namespace dropshade {
 
 /// Where everything of a palette's poster lies, and the one routine that draws it, on pixels and
 /// on paper alike. In points, from the top left corner.
+///
+/// It is made on the main thread, which alone may ask for the fonts of the desktop; then it can be
+/// drawn on another one, by one thread at a time.
 class PalettePoster {
+    Q_DECLARE_TR_FUNCTIONS(PalettePoster)
+
 public:
-    /// A title without words is for the caller to replace.
-    PalettePoster(const Palette& palette, const QString& title);
+    explicit PalettePoster(const Palette& palette);
 
     /// Whole points; at least the margins and the title.
     [[nodiscard]] QSizeF size() const;

@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <future>
 
 namespace dropshade {
 namespace {
@@ -29,8 +30,12 @@ int titleHeight() {
     return int(std::ceil(QFontMetricsF(font).height()));
 }
 
+QByteArray pngData(const Palette& palette) {
+    return PaletteImageRenderer::pngData(PalettePoster(palette)).value_or(QByteArray());
+}
+
 QImage png(const Palette& palette) {
-    return QImage::fromData(PaletteImageRenderer::pngData(palette).value_or(QByteArray()), "png");
+    return QImage::fromData(pngData(palette), "png");
 }
 
 /// The middle of the picture's right part of a cell, where no text of a few letters reaches.
@@ -124,7 +129,25 @@ TEST(PaletteImageRendererTest, ARowWiderThanAPainterReachesIsDrawnToItsEnd) {
 TEST(PaletteImageRendererTest, APictureBeyondTheLimitFailsAtOnce) {
     const QList<PaletteSwatch> swatches(2000, PaletteSwatch(QStringLiteral("#f00")));
     const QList<PaletteScale> scales(2000, PaletteScale(QString(), swatches));
-    EXPECT_FALSE(PaletteImageRenderer::pngData(makePalette("A", scales)));
+    EXPECT_FALSE(PaletteImageRenderer::pngData(PalettePoster(makePalette("A", scales))));
+}
+
+Palette brand() {
+    const PaletteSwatch sky(QStringLiteral(" #00AAFF\t"), QStringLiteral(" Sky\n"));
+    return makePalette("Brand", {PaletteScale(QStringLiteral("Blues"), {sky}),
+                                 makeScale("", {"#f00", "#0f0", "#00f"})});
+}
+
+TEST(PaletteImageRendererTest, APictureIsTheSameOnWhateverThreadItIsDrawn) {
+    const QByteArray here = pngData(brand());
+    for (int round = 0; round < 3; ++round) {
+        auto elsewhere = std::async(std::launch::async, [poster = PalettePoster(brand())] {
+            return PaletteImageRenderer::pngData(poster);
+        });
+        // With the same fonts, meanwhile.
+        EXPECT_EQ(pngData(brand()), here);
+        EXPECT_EQ(elsewhere.get(), here);
+    }
 }
 
 class PaperTest : public testing::Test {
@@ -134,7 +157,7 @@ protected:
         const QString path = m_folder.filePath(QStringLiteral("palette.pdf"));
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(PaletteImageRenderer::pdfData(palette).value_or(QByteArray()));
+        file.write(document(palette));
         file.close();
         QProcess process;
         QStringList arguments = QStringList(options) << path;
@@ -151,14 +174,18 @@ protected:
         return printed(QStringLiteral("pdfinfo"), palette, {QStringLiteral("-box")});
     }
 
+    /// Made on another thread than the main one.
+    static QByteArray document(const Palette& palette) {
+        return std::async(std::launch::async,
+                          [poster = PalettePoster(palette)] {
+                              return PaletteImageRenderer::pdfData(poster);
+                          })
+            .get()
+            .value_or(QByteArray());
+    }
+
     QTemporaryDir m_folder;
 };
-
-Palette brand() {
-    const PaletteSwatch sky(QStringLiteral(" #00AAFF\t"), QStringLiteral(" Sky\n"));
-    return makePalette("Brand", {PaletteScale(QStringLiteral("Blues"), {sky}),
-                                 makeScale("", {"#f00", "#0f0", "#00f"})});
-}
 
 TEST_F(PaperTest, TheDocumentIsOnePageOfTheCanvas) {
     const std::string info = this->info(makePalette("A", {makeScale("", {"#f00", "#0f0"})}));
