@@ -62,7 +62,8 @@ AppDelegate::AppDelegate(Platform platform)
       m_soundService(*m_platform.defaults, *m_platform.soundPlayer),
       m_copier(*m_platform.defaults, *m_platform.pasteboard, m_soundService),
       m_statusMenu(*m_platform.statusItem, menuSources()),
-      m_paletteExporter(*m_platform.scheduler, *m_platform.filePanels, *m_platform.alerts) {}
+      m_paletteExporter(*m_platform.scheduler, *m_platform.backgroundQueue, *m_platform.filePanels,
+                        *m_platform.alerts) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -121,7 +122,7 @@ void AppDelegate::connectMenu() {
     connect(menu, &StatusMenu::openAbout, this, &AppDelegate::openAbout);
     connect(menu, &StatusMenu::checkForUpdates, this,
             [this] { updateService().checkForUpdates(); });
-    connect(menu, &StatusMenu::quitApp, this, &AppDelegate::quitRequested);
+    connect(menu, &StatusMenu::quitApp, this, &AppDelegate::quit);
 }
 
 void AppDelegate::registerShortcuts() {
@@ -150,6 +151,13 @@ void AppDelegate::applicationWillTerminate() {
     // Qt may wait for a clipboard manager that is slow to take the text over; nothing of the
     // program should be seen meanwhile.
     m_platform.statusItem->setIcon(QIcon());
+    // Last, since a large poster takes a second.
+    m_paletteExporter.finish();
+}
+
+/// Once all exports are written. Where one fails the program stays, so that its alert is read.
+void AppDelegate::quit() {
+    m_paletteExporter.whenWritten([this] { Q_EMIT quitRequested(); });
 }
 
 void AppDelegate::updateStatusIcon() {

@@ -125,6 +125,7 @@ private:
     void statusItemClicked(const StatusItemClick& click);
     void pickColorClicked();
     void performAction(ApplicationAction action);
+    void quit();
     void updateStatusIcon();
     void explainMissingStatusArea();
     void loadPalettes();

@@ -15,36 +15,57 @@
 namespace dropshade {
 namespace {
 
+using Content = std::function<QByteArray()>;
+
+QByteArray swatchExchange(const Palette& palette) {
+    if (!ASECoder::fits(palette))
+        throw PaletteExporterError("A name is too long for the format.");
+    return ASECoder::encode(palette);
+}
+
 QByteArray rendered(std::optional<QByteArray> picture, const char* failure) {
     if (!picture)
         throw PaletteExporterError(failure);
     return *std::move(picture);
 }
 
-QByteArray content(const Palette& palette, PaletteExportFormat format) {
+/// What makes the bytes of a file, on any thread.
+Content contentOf(const Palette& palette, PaletteExportFormat format) {
     switch (format) {
     case PaletteExportFormat::ase:
-        if (!ASECoder::fits(palette))
-            throw PaletteExporterError("A name is too long for the format.");
-        return ASECoder::encode(palette);
+        return [palette] { return swatchExchange(palette); };
     case PaletteExportFormat::clr:
-        return CLRCoder::encode(palette);
+        return [palette] { return CLRCoder::encode(palette); };
     case PaletteExportFormat::json:
-        return PaletteJSONCoder::encode(palette);
+        return [palette] { return PaletteJSONCoder::encode(palette); };
     case PaletteExportFormat::txt:
-        return PaletteTextExporter::plainText(palette).toUtf8();
+        return [palette] { return PaletteTextExporter::plainText(palette).toUtf8(); };
     case PaletteExportFormat::html:
-        return PaletteTextExporter::html(palette).toUtf8();
+        return [palette] { return PaletteTextExporter::html(palette).toUtf8(); };
     case PaletteExportFormat::css:
-        return PaletteTextExporter::css(palette).toUtf8();
+        return [palette] { return PaletteTextExporter::css(palette).toUtf8(); };
     case PaletteExportFormat::png:
-        return rendered(PaletteImageRenderer::pngData(PalettePoster(palette)),
-                        "Failed to render PNG.");
+        return [poster = PalettePoster(palette)] {
+            return rendered(PaletteImageRenderer::pngData(poster), "Failed to render PNG.");
+        };
     case PaletteExportFormat::pdf:
-        return rendered(PaletteImageRenderer::pdfData(PalettePoster(palette)),
-                        "Failed to render PDF.");
+        return [poster = PalettePoster(palette)] {
+            return rendered(PaletteImageRenderer::pdfData(poster), "Failed to render PDF.");
+        };
     }
     Q_UNREACHABLE();
+}
+
+/// Writes the file, or tells the user's words for why not.
+std::optional<QString> failureToWrite(const QString& path, const Content& content) {
+    try {
+        WholeFile::write(path, content());
+    } catch (const FileError& error) {
+        return error.description();
+    } catch (const PaletteExporterError&) {
+        return genericErrorText("PaletteExporterError");
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -63,21 +84,53 @@ void PaletteExporter::askWhere(const Request& request) {
                   suggestedFileName(request.palette.name()), kind,
                   [this, request](const std::optional<QString>& path) {
                       if (path)
-                          writeOrTell(request, *path);
+                          enqueue({*path, contentOf(request.palette, request.format)});
                   });
 }
 
-void PaletteExporter::writeOrTell(const Request& request, const QString& path) {
-    const auto tell = [this](const QString& reason) {
-        m_alerts.warn(tr("Couldn't export palette", "Export error title"), reason);
-    };
-    try {
-        write(request.palette, request.format, path);
-    } catch (const FileError& error) {
-        tell(error.description());
-    } catch (const PaletteExporterError&) {
-        tell(genericErrorText("PaletteExporterError"));
-    }
+void PaletteExporter::enqueue(File file) {
+    m_files.push_back(std::move(file));
+    if (m_files.size() == 1)
+        writeFirst();
+}
+
+void PaletteExporter::writeFirst() {
+    m_writing = m_backgroundQueue.run([this, file = m_files.front()](
+                                          const std::stop_token&) -> BackgroundQueue::Landing {
+        return [this, failure = failureToWrite(file.path, file.content)] { firstDidEnd(failure); };
+    });
+}
+
+void PaletteExporter::firstDidEnd(const std::optional<QString>& failure) {
+    m_files.pop_front();
+    if (!m_files.empty())
+        writeFirst();
+    if (failure)
+        tell(*failure);
+    else if (m_files.empty() && m_whenWritten)
+        std::exchange(m_whenWritten, nullptr)();
+}
+
+void PaletteExporter::tell(const QString& failure) {
+    m_whenWritten = nullptr;
+    const QString title = tr("Couldn't export palette", "Export error title");
+    if (m_isAtEnd)
+        qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(failure));
+    else
+        m_alerts.warn(title, failure);
+}
+
+void PaletteExporter::whenWritten(std::function<void()> action) {
+    if (m_files.empty())
+        action();
+    else
+        m_whenWritten = std::move(action);
+}
+
+void PaletteExporter::finish() {
+    m_isAtEnd = true;
+    while (!m_files.empty())
+        m_backgroundQueue.finish();
 }
 
 QString PaletteExporter::suggestedFileName(const QString& paletteName) {
@@ -93,7 +146,7 @@ QString PaletteExporter::suggestedFileName(const QString& paletteName) {
 
 void PaletteExporter::write(const Palette& palette, PaletteExportFormat format,
                             const QString& path) {
-    WholeFile::write(path, content(palette, format));
+    WholeFile::write(path, contentOf(palette, format)());
 }
 
 } // namespace dropshade

@@ -5,12 +5,16 @@
 #include "interchange/PaletteExportFormat.h"
 #include "palettes/Palette.h"
 #include "platform/Alerts.h"
+#include "platform/BackgroundQueue.h"
 #include "platform/FilePanels.h"
 #include "platform/Scheduler.h"
 
 #include <QCoreApplication>
 
+#include <deque>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace dropshade {
@@ -21,19 +25,32 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// The one door through which palettes go out.
+/// The one door through which palettes go out. Files are made and written beside the main thread,
+/// which a poster of many swatches would hold up for a second, and one after another, so that of
+/// two to one path the later stays.
 class PaletteExporter {
     Q_DECLARE_TR_FUNCTIONS(PaletteExporter)
 
 public:
-    /// All three must outlive this object, and this object the panels that it has put up.
-    PaletteExporter(Scheduler& scheduler, FilePanels& panels, Alerts& alerts)
-        : m_scheduler(scheduler), m_panels(panels), m_alerts(alerts) {}
+    /// All four must outlive this object, and this object the panels that it has put up. Its end
+    /// drops the exports that haven't begun.
+    PaletteExporter(Scheduler& scheduler, BackgroundQueue& backgroundQueue, FilePanels& panels,
+                    Alerts& alerts)
+        : m_scheduler(scheduler), m_backgroundQueue(backgroundQueue), m_panels(panels),
+          m_alerts(alerts) {}
 
     /// Asks where to write the palette, and writes it as it is now, whatever happens to it while
     /// the panel is up. Returns at once: the panel comes when the menu that asked for it has gone.
     /// A failure is told in an alert.
     void exportPalette(const Palette& palette, PaletteExportFormat format);
+
+    /// Calls `action` as soon as no file is on its way: at once where none is, and never where one
+    /// fails, since the user is to see its alert. A later call takes the place of an earlier one.
+    void whenWritten(std::function<void()> action);
+
+    /// Has the files that are on their way written before it returns. For the end of the program: a
+    /// failure goes to the log.
+    void finish();
 
     /// The palette's name without what file systems or shells take amiss, without an extension.
     [[nodiscard]] static QString suggestedFileName(const QString& paletteName);
@@ -49,14 +66,29 @@ private:
         PaletteExportFormat format;
     };
 
+    /// A file to be written, whose bytes any thread can make.
+    struct File {
+        QString path;
+        std::function<QByteArray()> content;
+    };
+
     void askWhere(const Request& request);
-    void writeOrTell(const Request& request, const QString& path);
+    void enqueue(File file);
+    void writeFirst();
+    void firstDidEnd(const std::optional<QString>& failure);
+    void tell(const QString& failure);
 
     Scheduler& m_scheduler;
+    BackgroundQueue& m_backgroundQueue;
     FilePanels& m_panels;
     Alerts& m_alerts;
     std::vector<Request> m_requests;
     std::unique_ptr<ScheduledWork> m_next;
+    /// The first is being written.
+    std::deque<File> m_files;
+    std::unique_ptr<BackgroundWork> m_writing;
+    std::function<void()> m_whenWritten;
+    bool m_isAtEnd = false;
 };
 
 } // namespace dropshade

@@ -6,8 +6,10 @@
 #include "support/FakePlatform.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QTemporaryDir>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -210,6 +212,53 @@ TEST_F(AppDelegateTest, QuitAsksForTheEndOfTheProgram) {
     fakes.statusItem.click();
     openMenu()->actions().last()->trigger();
     EXPECT_EQ(requests, 1);
+}
+
+class AppDelegateExport : public AppDelegateTest {
+protected:
+    AppDelegateExport() {
+        QObject::connect(&delegate, &AppDelegate::quitRequested, [this] { ++quits; });
+    }
+    /// Up to where the file is to be written.
+    void exportTo(const QString& path) {
+        delegate.paletteExporter().exportPalette(delegate.paletteStore().palettes().first(),
+                                                 PaletteExportFormat::png);
+        fakes.scheduler.advance(0);
+        fakes.filePanels.choose(path);
+    }
+    void chooseQuit() {
+        fakes.instance.activate();
+        openMenu()->actions().last()->trigger();
+    }
+
+    QTemporaryDir folder;
+    QString file = folder.filePath(QStringLiteral("a.png"));
+    int quits = 0;
+};
+
+TEST_F(AppDelegateExport, QuitWaitsForAFileThatIsOnItsWay) {
+    exportTo(file);
+    chooseQuit();
+    EXPECT_EQ(quits, 0);
+    fakes.backgroundQueue.workAndLand();
+    EXPECT_TRUE(QFile::exists(file));
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(AppDelegateExport, AFileThatFailsIsToldAndCallsTheQuitOff) {
+    exportTo(folder.filePath(QStringLiteral("vanished/a.png")));
+    chooseQuit();
+    fakes.backgroundQueue.workAndLand();
+    EXPECT_EQ(fakes.alerts.waitingCount(), 1);
+    EXPECT_EQ(quits, 0);
+    chooseQuit();
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(AppDelegateExport, AnEndThatNobodyAskedForFindsTheFileWritten) {
+    exportTo(file);
+    delegate.applicationWillTerminate();
+    EXPECT_TRUE(QFile::exists(file));
 }
 
 TEST_F(AppDelegateTest, PutsThePickedColourOnTheClipboardAsHexByDefault) {

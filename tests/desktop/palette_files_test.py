@@ -4,17 +4,18 @@
 
 import pathlib
 import shutil
+import signal
 import unittest
 
 from dropshade_case import wait_until
-from palettes_case import PalettesCase
+from palettes_case import PalettesCase, palette, scale
 
 FORMATS = ["ase", "clr", "css", "html", "json", "pdf", "txt", "png"]
 BEGINNINGS = {"ase": b"ASEF\x00\x01\x00\x00", "clr": b"bplist00", "json": b'{\n  "name" : "Sea"',
               "pdf": b"%PDF-", "png": b"\x89PNG\r\n"}
 
 
-class PaletteFiles(PalettesCase):
+class PaletteFilesCase(PalettesCase):
 
     WINDOW = (560, 620)
 
@@ -72,6 +73,9 @@ class PaletteFiles(PalettesCase):
             self.desktop.key(*keys, {".": "period"}.get(character, character.lower()))
         self.desktop.key("Return")
 
+
+class PaletteFiles(PaletteFilesCase):
+
     def test_a_palette_goes_out_as_files_of_the_name_that_the_panel_offers(self):
         for extension in ("clr", "png", "pdf"):
             self.assertTrue(self.export(extension).startswith(BEGINNINGS[extension]))
@@ -98,6 +102,24 @@ class PaletteFiles(PalettesCase):
         self.desktop.key("Return")
         self.wait_for_alert("Couldn't export palette")
         self.assertIsNone(self.program.returncode)
+
+
+class LargePaletteFiles(PaletteFilesCase):
+
+    def palettes(self):
+        return [palette("Sea", *[scale(f"Scale {row}", *[f"#{row:02x}{column:02x}ff"
+                                                         for column in range(11)])
+                                 for row in range(26)])]
+
+    def test_a_session_that_ends_during_an_export_leaves_the_whole_file(self):
+        self.ask_for_export("png")
+        self.desktop.key("Return")
+        wait_until(lambda: not self.find_window("Export Palette"), "the panel to go")
+        self.program.send(signal.SIGTERM)
+        self.assertEqual(self.program.wait(), 0)
+        content = (self.documents / "Sea.png").read_bytes()
+        self.assertTrue(content.startswith(BEGINNINGS["png"]))
+        self.assertEqual(content[-8:-4], b"IEND")
 
 
 if __name__ == "__main__":

@@ -6,6 +6,7 @@
 #include "interchange/WholeFile.h"
 #include "support/FakeAlerts.h"
 #include "support/FakeFilePanels.h"
+#include "support/ManualBackgroundQueue.h"
 #include "support/ManualScheduler.h"
 #include "support/Palettes.h"
 #include "support/QtPrinters.h"
@@ -33,12 +34,23 @@ protected:
         m_exporter.exportPalette(palette, format);
         m_scheduler.advance(0);
     }
+    /// Answers the panel, and lets the file be written.
+    void saveAs(const char* name) {
+        m_panels.choose(path(name));
+        m_queue.workAndLand();
+    }
+    /// Answers the panel for a file that can't be written.
+    void exportIntoNoFolder() {
+        exportAs(PaletteExportFormat::txt);
+        m_panels.choose(path("vanished/a.txt"));
+    }
 
     QTemporaryDir m_folder;
     ManualScheduler m_scheduler;
+    ManualBackgroundQueue m_queue;
     FakeFilePanels m_panels;
     FakeAlerts m_alerts;
-    PaletteExporter m_exporter{m_scheduler, m_panels, m_alerts};
+    PaletteExporter m_exporter{m_scheduler, m_queue, m_panels, m_alerts};
 };
 
 TEST_F(PaletteExporterTest, ThePanelComesWhenTheMenuHasGone) {
@@ -62,7 +74,7 @@ TEST_F(PaletteExporterTest, WritesThePaletteAsItWasWhenTheUserAsked) {
     m_exporter.exportPalette(palette, PaletteExportFormat::json);
     palette.setScales({});
     m_scheduler.advance(0);
-    m_panels.choose(path("a.json"));
+    saveAs("a.json");
     EXPECT_EQ(PaletteImporter(m_scheduler).load(path("a.json")).scales().size(), 1);
     EXPECT_TRUE(m_alerts.shown().isEmpty());
 }
@@ -75,13 +87,15 @@ TEST_F(PaletteExporterTest, CancellingDoesNothing) {
 
 TEST_F(PaletteExporterTest, TheFormatIsTheChosenOneWhateverTheExtension) {
     exportAs(PaletteExportFormat::html);
-    m_panels.choose(path("page.txt"));
+    saveAs("page.txt");
     EXPECT_TRUE(WholeFile::read(path("page.txt")).startsWith("<!DOCTYPE html>"));
 }
 
 TEST_F(PaletteExporterTest, AFailedWriteIsToldInTheWordsOfTheFileSystem) {
-    exportAs(PaletteExportFormat::txt);
-    m_panels.choose(path("vanished/a.txt"));
+    exportIntoNoFolder();
+    m_queue.work();
+    EXPECT_TRUE(m_alerts.shown().isEmpty());
+    m_queue.land();
     ASSERT_EQ(m_alerts.shown().size(), 1);
     EXPECT_EQ(m_alerts.shown().at(0).title, QStringLiteral("Couldn't export palette"));
     EXPECT_TRUE(m_alerts.shown().at(0).text.contains(QStringLiteral("No such file or directory")))
@@ -93,7 +107,7 @@ TEST_F(PaletteExporterTest, APaletteThatCannotBeDrawnIsToldInTheGenericSentence)
     const QList<PaletteScale> scales(2000, PaletteScale(QString(), swatches));
     exportAs(PaletteExportFormat::png, makePalette("Huge", scales));
     WholeFile::write(path("old.png"), "old");
-    m_panels.choose(path("old.png"));
+    saveAs("old.png");
     ASSERT_EQ(m_alerts.shown().size(), 1);
     EXPECT_EQ(m_alerts.shown().at(0).text,
               QStringLiteral("The operation couldn't be completed. (PaletteExporterError)"));
@@ -104,9 +118,92 @@ TEST_F(PaletteExporterTest, ANameTooLongForAFormatIsToldAndEndsNothing) {
     const PaletteSwatch swatch(QStringLiteral("#f00"), QString(65'535, u'x'));
     const Palette palette = makePalette("A", {PaletteScale(QString(), {swatch})});
     exportAs(PaletteExportFormat::ase, palette);
-    m_panels.choose(path("a.ase"));
+    saveAs("a.ase");
     EXPECT_EQ(m_alerts.shown().size(), 1);
     EXPECT_FALSE(QFile::exists(path("a.ase")));
+}
+
+TEST_F(PaletteExporterTest, AFileOfAnyFormatIsMadeBesideTheMainThread) {
+    for (const PaletteExportFormat format : exportMenuOrder()) {
+        exportAs(format);
+        m_panels.choose(path("a"));
+        EXPECT_FALSE(QFile::exists(path("a")));
+        m_queue.workAndLand();
+        EXPECT_TRUE(QFile::remove(path("a")));
+    }
+}
+
+TEST_F(PaletteExporterTest, OfTwoExportsToOnePathTheLaterStays) {
+    exportAs(PaletteExportFormat::css);
+    exportAs(PaletteExportFormat::html);
+    m_panels.choose(path("a"));
+    m_panels.choose(path("a"));
+    EXPECT_EQ(m_queue.waiting(), 1);
+    m_queue.workAndLand();
+    EXPECT_TRUE(WholeFile::read(path("a")).startsWith("/* "));
+    m_queue.workAndLand();
+    EXPECT_TRUE(WholeFile::read(path("a")).startsWith("<!DOCTYPE html>"));
+    m_queue.workAndLand();
+    EXPECT_EQ(m_queue.runs(), 2);
+}
+
+TEST_F(PaletteExporterTest, AFailureDoesNotKeepTheNextFileBack) {
+    exportIntoNoFolder();
+    exportAs(PaletteExportFormat::css);
+    m_panels.choose(path("a.css"));
+    m_queue.workAndLand();
+    m_queue.workAndLand();
+    EXPECT_EQ(m_alerts.shown().size(), 1);
+    EXPECT_TRUE(QFile::exists(path("a.css")));
+}
+
+TEST_F(PaletteExporterTest, WhoeverWaitsForTheFilesIsCalledAfterTheLastOfThem) {
+    int calls = 0;
+    m_exporter.whenWritten([&calls] { ++calls; });
+    EXPECT_EQ(calls, 1);
+    exportAs(PaletteExportFormat::css);
+    exportAs(PaletteExportFormat::txt);
+    m_panels.choose(path("a.css"));
+    m_panels.choose(path("a.txt"));
+    m_exporter.whenWritten([&calls] { ++calls; });
+    m_queue.workAndLand();
+    EXPECT_EQ(calls, 1);
+    m_queue.workAndLand();
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(PaletteExporterTest, WhoeverWaitsForTheFilesIsNotCalledOverTheAlertOfOneThatFails) {
+    int calls = 0;
+    exportIntoNoFolder();
+    exportAs(PaletteExportFormat::css);
+    m_panels.choose(path("a.css"));
+    m_exporter.whenWritten([&calls] { ++calls; });
+    m_queue.workAndLand();
+    m_queue.workAndLand();
+    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(m_alerts.waitingCount(), 1);
+}
+
+TEST_F(PaletteExporterTest, TheEndOfTheProgramWaitsForTheFilesThatAreOnTheirWay) {
+    exportAs(PaletteExportFormat::css);
+    exportAs(PaletteExportFormat::txt);
+    m_panels.choose(path("a.css"));
+    m_panels.choose(path("a.txt"));
+    m_exporter.finish();
+    EXPECT_TRUE(QFile::exists(path("a.css")));
+    EXPECT_TRUE(QFile::exists(path("a.txt")));
+}
+
+TEST_F(PaletteExporterTest, AFailureAtTheEndOfTheProgramGoesToTheLog) {
+    static QString logged;
+    exportIntoNoFolder();
+    const auto former = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& text) { logged = text; });
+    m_exporter.finish();
+    qInstallMessageHandler(former);
+    EXPECT_TRUE(logged.startsWith(QStringLiteral("Couldn't export palette: “a.txt”")))
+        << logged.toStdString();
+    EXPECT_TRUE(m_alerts.shown().isEmpty());
 }
 
 struct NameRow {
