@@ -26,8 +26,13 @@ int main(int argc, char** argv) {
     if (platform.instance->claim() == ApplicationInstance::Role::HandedOver)
         return 0;
     QTranslator words;
-    if (loadWords(words))
+    QTranslator toolkitWords;
+    if (loadWords(words)) {
+        if (loadToolkitWords(toolkitWords, words))
+            QApplication::installTranslator(&toolkitWords);
+        // Later, and so asked first.
         QApplication::installTranslator(&words);
+    }
     platform.filePanels = std::make_unique<QtFilePanels>(*platform.appearance);
     platform.alerts = std::make_unique<ThemedAlerts>(*platform.appearance);
     AppDelegate delegate(std::move(platform));

@@ -3,6 +3,7 @@
 #include "app/Words.h"
 
 #include <QFile>
+#include <QLibraryInfo>
 
 namespace dropshade {
 namespace {
@@ -22,6 +23,12 @@ bool loadWords(QTranslator& words, const QLocale& locale) {
             return words.load(file);
     }
     return words.load(catalogue(QStringLiteral("en")));
+}
+
+bool loadToolkitWords(QTranslator& toolkitWords, const QTranslator& words) {
+    return toolkitWords.load(QLocale(words.language()), QStringLiteral("qtbase"),
+                             QStringLiteral("_"),
+                             QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 
 } // namespace dropshade

@@ -12,4 +12,8 @@ namespace dropshade {
 /// read where it lies, in the program itself. `locale` is the user's.
 [[nodiscard]] bool loadWords(QTranslator& words, const QLocale& locale = QLocale());
 
+/// What Qt says by itself, in its file panels and names of keys, in the language that `words` has
+/// been loaded in. False where the system has no such catalogue; Qt then speaks English.
+[[nodiscard]] bool loadToolkitWords(QTranslator& toolkitWords, const QTranslator& words);
+
 } // namespace dropshade

@@ -9,6 +9,8 @@
 #include "support/QtPrinters.h"
 
 #include <QCoreApplication>
+#include <QFileDialog>
+#include <QKeySequence>
 
 #include <gtest/gtest.h>
 
@@ -17,11 +19,26 @@ namespace {
 
 class WordsTest : public testing::Test {
 protected:
-    ~WordsTest() override { QCoreApplication::removeTranslator(&m_words); }
+    ~WordsTest() override {
+        QCoreApplication::removeTranslator(&m_words);
+        QCoreApplication::removeTranslator(&m_toolkitWords);
+    }
 
+    /// As the program does at its start.
     void speak(const QLocale& locale) {
         ASSERT_TRUE(loadWords(m_words, locale));
+        ASSERT_TRUE(loadToolkitWords(m_toolkitWords, m_words)) << "Qt's catalogues are missing";
+        QCoreApplication::installTranslator(&m_toolkitWords);
         QCoreApplication::installTranslator(&m_words);
+    }
+    /// What stands before the choice of a kind of file.
+    static QString kindInFilePanel() {
+        QFileDialog panel;
+        panel.setOption(QFileDialog::DontUseNativeDialog);
+        return panel.labelText(QFileDialog::FileType);
+    }
+    static QString copyKeys() {
+        return QKeySequence(Qt::CTRL | Qt::Key_C).toString(QKeySequence::NativeText);
     }
     static QString subtitle() {
         return QCoreApplication::translate(
@@ -33,6 +50,7 @@ protected:
     }
 
     QTranslator m_words;
+    QTranslator m_toolkitWords;
 };
 
 TEST_F(WordsTest, EnglishIsWordedForThisPlatform) {
@@ -56,6 +74,19 @@ TEST_F(WordsTest, WhoeverSpeaksGermanReadsGerman) {
     EXPECT_EQ(agoInSeconds(7200.0), QStringLiteral("vor 2 Stunden"));
     EXPECT_EQ(subtitle(),
               QStringLiteral("Hält Paletten und Einstellungen auf allen Rechnern gleich."));
+}
+
+TEST_F(WordsTest, WhatTheToolkitSaysIsGermanToo) {
+    EXPECT_EQ(kindInFilePanel(), QStringLiteral("Files of type:"));
+    speak(QLocale(QLocale::German, QLocale::Austria));
+    EXPECT_EQ(kindInFilePanel(), QStringLiteral("Dateien des Typs:"));
+    EXPECT_EQ(copyKeys(), QStringLiteral("Strg+C"));
+}
+
+TEST_F(WordsTest, WhereTheProgramSpeaksEnglishSoDoesTheToolkit) {
+    speak(QLocale(QLocale::French));
+    EXPECT_EQ(kindInFilePanel(), QStringLiteral("Files of type:"));
+    EXPECT_EQ(copyKeys(), QStringLiteral("Ctrl+C"));
 }
 
 TEST_F(WordsTest, ALanguageWithoutACatalogueGetsTheEnglishOne) {
