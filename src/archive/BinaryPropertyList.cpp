@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "archive/BinaryPropertyList.h"
 
+#include "bytes/BytesOf.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -16,9 +18,8 @@ constexpr std::uint64_t widestInteger = 8;
 } // namespace
 
 std::unique_ptr<PropertyListTree> BinaryPropertyList::open(const QByteArray& bytes) {
-    const std::span<const std::uint8_t> span(
-        reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size()));
-    const auto objects = Objects::isBinary(span) ? Objects::of(span) : std::nullopt;
+    const auto objects =
+        Objects::isBinary(bytesOf(bytes)) ? Objects::of(bytesOf(bytes)) : std::nullopt;
     return objects ? std::unique_ptr<PropertyListTree>(new BinaryPropertyList(bytes, *objects))
                    : nullptr;
 }

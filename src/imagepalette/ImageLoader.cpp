@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "imagepalette/ImageLoader.h"
 
+#include "bytes/BytesOf.h"
 #include "imagepalette/HeifCheck.h"
 #include "imagepalette/HeifDecoder.h"
 #include "imagepalette/ImageFileCheck.h"
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 
 namespace dropshade {
 
@@ -39,11 +39,6 @@ qint64 areaOf(QSize size) {
 
 qint64 proportionatePixels(qint64 fileSize) {
     return freePixels + mostPixelsPerByte * fileSize;
-}
-
-std::span<const std::uint8_t> bytesOf(const QByteArray& data) {
-    return {reinterpret_cast<const std::uint8_t*>(data.constData()),
-            static_cast<std::size_t>(data.size())};
 }
 
 /// `size` with its longer side brought down to `longest`; as it is where that is no longer.

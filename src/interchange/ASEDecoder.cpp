@@ -3,6 +3,7 @@
 #include "interchange/ASECoder.h"
 
 #include "bytes/ByteReader.h"
+#include "bytes/BytesOf.h"
 #include "interchange/ASEFormat.h"
 #include "interchange/ColorConverter.h"
 #include "interchange/HexText.h"
@@ -203,9 +204,7 @@ const char* ASECoderError::what() const noexcept {
 }
 
 Palette ASECoder::decode(const QByteArray& data, ReferenceTime now) {
-    const Bytes file(reinterpret_cast<const std::uint8_t*>(data.constData()),
-                     std::size_t(data.size()));
-    return Palette(ImportedNames::palette(), Decoder(file).scales(), now);
+    return Palette(ImportedNames::palette(), Decoder(bytesOf(data)).scales(), now);
 }
 
 } // namespace dropshade

@@ -3,6 +3,7 @@
 #include "interchange/StreamedColorList.h"
 
 #include "bytes/ByteReader.h"
+#include "bytes/BytesOf.h"
 #include "interchange/ColorConverter.h"
 #include "interchange/KeyBudget.h"
 #include "interchange/LegacyColor.h"
@@ -246,9 +247,7 @@ private:
 };
 
 ColorList listIn(const QString& name, const QByteArray& bytes, ByteReader::Endian endian) {
-    StreamReader stream(
-        Bytes(reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())),
-        endian);
+    StreamReader stream(bytesOf(bytes), endian);
     stream.expectType("i");
     static_cast<void>(stream.integer()); // The version of the list.
     stream.expectType("@i");

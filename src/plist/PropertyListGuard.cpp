@@ -3,6 +3,7 @@
 #include "plist/PropertyListGuard.h"
 
 #include "archive/PropertyListObjects.h"
+#include "bytes/BytesOf.h"
 
 #include <algorithm>
 #include <optional>
@@ -21,10 +22,6 @@ constexpr quint64 mostBinaryContent = 2 * quint64(mostBytes);
 constexpr quint64 mostKeyLength = 1024;
 
 using Objects = PropertyListObjects;
-
-std::span<const std::uint8_t> spanOf(const QByteArray& bytes) {
-    return {reinterpret_cast<const std::uint8_t*>(bytes.constData()), std::size_t(bytes.size())};
-}
 
 /// Whether the object is a string without NUL characters.
 bool isKey(const Objects& objects, quint64 object) {
@@ -73,7 +70,7 @@ quint64 contentSize(const Objects& objects, quint64 object) {
 
 /// Walks the tree that the objects spell, in which a shared object counts as often as it occurs.
 bool isReasonableBinary(const QByteArray& bytes) {
-    const auto objects = Objects::of(spanOf(bytes));
+    const auto objects = Objects::of(bytesOf(bytes));
     if (!objects)
         return false;
     std::vector<std::vector<quint64>> path = {{objects->root()}};
@@ -101,7 +98,7 @@ bool isReasonableBinary(const QByteArray& bytes) {
 } // namespace
 
 bool isBinaryPropertyList(const QByteArray& bytes) {
-    return Objects::isBinary(spanOf(bytes));
+    return Objects::isBinary(bytesOf(bytes));
 }
 
 bool isReasonablePropertyList(const QByteArray& bytes) {

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 #include "imagepalette/HeifCheck.h"
+#include "bytes/BytesOf.h"
 #include "imagepalette/HevcHeaders.h"
 #include "imagepalette/SampleFiles.h"
 
@@ -12,8 +13,7 @@ namespace {
 using namespace SampleFiles;
 
 std::optional<std::uint64_t> pixelsOf(const QByteArray& file) {
-    return heifDecodingPixels({reinterpret_cast<const std::uint8_t*>(file.constData()),
-                               static_cast<std::size_t>(file.size())});
+    return heifDecodingPixels(bytesOf(file));
 }
 
 // Main profile, no sub-layers, sequence 0, 4:2:0; then a width of 16 and a height of 8.
