@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/PalettePoster.h"
 
+#include "interchange/WithoutBlanks.h"
 #include "platform/QtColor.h"
 
 #include <QFontDatabase>
@@ -44,13 +45,6 @@ QString oneLine(QString text) {
             character = u' ';
     }
     return text;
-}
-
-QString trimmedOfBlanks(const QString& text) {
-    const auto isBlank = [](QChar character) { return character == u' ' || character == u'\t'; };
-    const auto begin = std::find_if_not(text.begin(), text.end(), isBlank);
-    const auto end = std::find_if_not(text.rbegin(), std::reverse_iterator(begin), isBlank).base();
-    return QString(begin, end - begin);
 }
 
 double widthOf(const QString& text, const QFont& font) {
@@ -149,7 +143,7 @@ void PalettePoster::drawSwatch(QPainter& painter, const PaletteSwatch& swatch,
                                const QRectF& cell) const {
     painter.fillRect(cell, toQColor(swatch.color()));
     const bool isLightText = swatch.prefersLightText();
-    const QString value = cut(trimmedOfBlanks(swatch.value()).toLower(), m_hexFont);
+    const QString value = cut(withoutBlanks(swatch.value()).toLower(), m_hexFont);
     const QString label = cut(swatch.label().value_or(QString()).trimmed(), m_labelFont);
     const double valueHeight = lineHeight(m_hexFont);
     const double blockHeight =

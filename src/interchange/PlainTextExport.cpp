@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "interchange/PaletteTextExporter.h"
 
+#include "interchange/WithoutBlanks.h"
+
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
@@ -15,15 +17,6 @@ qsizetype characterCount(const QString& text) {
     while (finder.toNextBoundary() > 0)
         ++count;
     return count;
-}
-
-/// Without the blanks and tabs at both ends; line ends stay.
-QString withoutBlanks(const QString& text) {
-    const auto isBlank = [](QChar character) { return character == u' ' || character == u'\t'; };
-    const auto begin = std::find_if_not(text.cbegin(), text.cend(), isBlank);
-    const auto end =
-        std::find_if_not(text.crbegin(), std::make_reverse_iterator(begin), isBlank).base();
-    return QString(begin, end - begin);
 }
 
 QString underlined(const QString& text, QChar line) {
