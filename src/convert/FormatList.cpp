@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "convert/FormatList.h"
 
+#include "widgets/ErrorSign.h"
 #include "widgets/Hairline.h"
-#include "widgets/Icon.h"
 #include "widgets/Label.h"
 #include "widgets/Metrics.h"
 
@@ -17,6 +17,8 @@ namespace {
 
 constexpr int margin = 8;
 constexpr int inset = metrics::windowMargin - margin;
+/// As high as the first line of the words beside it.
+constexpr int signHeight = 20;
 
 QWidget* indented(QWidget* content, int left, int top, int right, int bottom) {
     auto* frame = new QWidget;
@@ -25,22 +27,6 @@ QWidget* indented(QWidget* content, int left, int top, int right, int bottom) {
     layout->addWidget(content);
     return frame;
 }
-
-/// The sign of a text that is no color.
-class Sign : public QWidget {
-public:
-    explicit Sign(const Look& look) : m_look(look) { setFixedSize(metrics::icon, 20); }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter(this).drawPixmap(0, (height() - metrics::icon) / 2,
-                                  iconPixmap(Icon::ExclamationCircle, m_look.theme().dangerBase,
-                                             metrics::icon, devicePixelRatioF()));
-    }
-
-private:
-    const Look& m_look;
-};
 
 } // namespace
 
@@ -67,7 +53,9 @@ void FormatList::addError(QVBoxLayout& column) {
     auto* row = new QHBoxLayout(message);
     row->setContentsMargins(inset, metrics::space12, inset, metrics::space12);
     row->setSpacing(metrics::space8);
-    row->addWidget(new Sign(m_look), 0, Qt::AlignTop);
+    auto* sign = new ErrorSign(m_look);
+    sign->setFixedHeight(signHeight);
+    row->addWidget(sign, 0, Qt::AlignTop);
     row->addWidget(words, 1);
     m_error = new QWidget;
     auto* layout = new QVBoxLayout(m_error);

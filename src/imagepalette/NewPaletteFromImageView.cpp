@@ -5,8 +5,8 @@
 #include "imagepalette/ImageZone.h"
 #include "imagepalette/PreviewStrip.h"
 #include "imagepalette/QuantizerTitles.h"
+#include "widgets/ErrorSign.h"
 #include "widgets/Hairline.h"
-#include "widgets/Icon.h"
 #include "widgets/Label.h"
 #include "widgets/Metrics.h"
 #include "widgets/Picker.h"
@@ -22,7 +22,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMimeData>
-#include <QPainter>
 #include <QPointer>
 #include <QShortcut>
 
@@ -36,24 +35,6 @@ constexpr int labelColumn = 88;
 constexpr int countColumn = 32;
 /// The slider's widget is wider than its track by what its thumb needs.
 constexpr int sliderOverhang = 4;
-
-class ErrorSign : public QWidget {
-public:
-    ErrorSign(const Look& look, QWidget* parent) : QWidget(parent), m_look(look) {
-        setFixedSize(metrics::icon, metrics::icon);
-        connect(&look, &Look::didChange, this, qOverload<>(&QWidget::update));
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter(this).drawPixmap(0, 0,
-                                  iconPixmap(Icon::ExclamationCircle, m_look.theme().dangerBase,
-                                             metrics::icon, devicePixelRatioF()));
-    }
-
-private:
-    const Look& m_look;
-};
 
 } // namespace
 

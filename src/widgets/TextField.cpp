@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/TextField.h"
 
+#include "widgets/ErrorSign.h"
 #include "widgets/FocusRing.h"
 #include "widgets/IconButton.h"
 #include "widgets/Menu.h"
@@ -26,28 +27,6 @@ namespace {
 constexpr int textInset = 8;
 
 } // namespace
-
-/// Says that the text is refused; its tooltip and its name say why.
-class TextField::Sign : public QWidget {
-public:
-    Sign(const Look& look, QWidget* parent) : QWidget(parent), m_look(look) {
-        setFixedSize(metrics::iconButtonField, metrics::iconButtonField);
-        setCursor(Qt::ArrowCursor);
-        ToolTip::installOn(*this, look);
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        const int margin = (width() - metrics::icon) / 2;
-        painter.drawPixmap(margin, margin,
-                           iconPixmap(Icon::ExclamationCircle, m_look.theme().dangerBase,
-                                      metrics::icon, devicePixelRatioF()));
-    }
-
-private:
-    const Look& m_look;
-};
 
 TextField::TextField(const Look& look, Content content, QWidget* parent)
     : QLineEdit(parent), m_look(look), m_content(content), m_height(metrics::control) {
@@ -77,8 +56,12 @@ void TextField::setFailed(bool failed) {
 }
 
 void TextField::setFailure(const QString& reason) {
-    if (!m_sign)
-        m_sign = new Sign(m_look, this);
+    if (!m_sign) {
+        m_sign = new ErrorSign(m_look, this);
+        m_sign->setFixedSize(metrics::iconButtonField, metrics::iconButtonField);
+        m_sign->setCursor(Qt::ArrowCursor);
+        ToolTip::installOn(*m_sign, m_look);
+    }
     m_sign->setToolTip(reason);
     m_sign->setAccessibleName(reason);
     arrange();

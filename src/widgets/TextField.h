@@ -9,6 +9,7 @@
 
 namespace dropshade {
 
+class ErrorSign;
 class IconButton;
 
 /// One line of text. A field whose text is refused has a red edge and, on request, a sign with the
@@ -53,8 +54,6 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    class Sign;
-
     void adopt();
     void arrange();
 
@@ -64,7 +63,8 @@ private:
     int m_height;
     bool m_isFailed = false;
     IconButton* m_clearButton = nullptr;
-    Sign* m_sign = nullptr;
+    /// Where the text is refused; its tooltip and its name say why.
+    ErrorSign* m_sign = nullptr;
 };
 
 } // namespace dropshade
