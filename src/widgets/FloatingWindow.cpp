@@ -55,6 +55,7 @@ void FloatingWindow::rememberFrame(UserDefaults& defaults, const QString& name, 
         if (const QScreen* screen = QGuiApplication::primaryScreen())
             move(screen->availableGeometry().center() - QPoint(width() / 2, height() / 2));
     }
+    m_placedAt = pos();
     m_defaults = &defaults;
     m_frameName = name;
 }
@@ -100,8 +101,11 @@ void FloatingWindow::paintEvent(QPaintEvent*) {
 
 void FloatingWindow::storeFrame() {
     m_frameSettles.stop();
-    if (m_defaults && isVisible() && !isMinimized())
-        storeWindowFrame(*m_defaults, m_frameName, QRect(pos(), size()));
+    if (!m_defaults || !isVisible() || isMinimized())
+        return;
+    // Where the desktop alone knows the place, the stored one is kept for other desktops.
+    const QPoint corner = m_look.programsPlaceWindows() ? pos() : m_placedAt;
+    storeWindowFrame(*m_defaults, m_frameName, QRect(corner, size()));
 }
 
 } // namespace dropshade

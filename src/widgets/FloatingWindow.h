@@ -46,6 +46,7 @@ private:
     const Look& m_look;
     UserDefaults* m_defaults = nullptr;
     QString m_frameName;
+    QPoint m_placedAt;
     QTimer m_frameSettles;
     std::optional<QPoint> m_hiddenAt;
 };

@@ -26,7 +26,7 @@ class WaylandCase(RunningProgram, unittest.TestCase):
 
     def setUp(self):
         self.desktop = self.enterContext(
-            WaylandDesktop(scale=self.SCALE, layout=self.LAYOUT, more=self.MORE))
+            WaylandDesktop(1280 * self.SCALE, 800 * self.SCALE, self.SCALE, self.LAYOUT, self.MORE))
         self.hand = self.desktop.hand
         self.prepare_desktop()
         self.start_panel()
@@ -83,6 +83,14 @@ class WaylandCase(RunningProgram, unittest.TestCase):
         for _ in range(row):
             self.hand.key("Down")
         self.hand.key("Return")
+
+    def at(self, title, x, y):
+        """The place on the screen of a place in the window."""
+        left, top, _, _ = self.desktop.area(title)
+        return left + x, top + y
+
+    def click_in(self, title, x, y):
+        self.hand.click(*self.at(title, x, y))
 
     def wait_for_no_window(self, title):
         wait_until(lambda: not self.desktop.window(title), f"{title} to close")
