@@ -11,6 +11,7 @@ import sys
 import unittest
 
 from dropshade_case import VirtualDesktop
+from wayland_desktop import WaylandDesktop
 
 FOLDER = sys.argv.pop(1) if len(sys.argv) > 1 else "build/release/tests/platform"
 
@@ -41,6 +42,16 @@ class Adapters(unittest.TestCase):
 
     def test_the_layout_is_that_of_the_x_server(self):
         self.run_contract("XkbKeyboardLayoutTest")
+
+    def test_the_layout_is_that_of_the_wayland_compositor(self):
+        for layout, letter in (("de", "z"), ("us", "y"), ("fr", "y")):
+            with WaylandDesktop(layout=layout) as desktop:
+                result = subprocess.run(
+                    [os.path.join(FOLDER, "WaylandKeymapTest")], capture_output=True, text=True,
+                    timeout=90, check=False, env={**desktop.environment, "LETTER_OF_Y": letter,
+                                                  "QT_QPA_PLATFORM": "wayland"})
+            self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+            self.assertNotIn("SKIPPED", result.stdout)
 
     def test_the_clipboard_keeps_the_contract_of_the_pasteboard(self):
         self.run_contract("PasteboardContractTest")

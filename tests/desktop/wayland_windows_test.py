@@ -154,9 +154,5 @@ class WaylandWindows(WaylandCase):
         wait_until(lambda: self.setting("copySound") == "ding", "the chosen sound")
 
 
-class WaylandWindowsAtTwice(WaylandWindows):
-    SCALE = 2
-
-
 if __name__ == "__main__":
     unittest.main(verbosity=2)

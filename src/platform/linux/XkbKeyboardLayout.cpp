@@ -3,11 +3,15 @@
 #include "platform/linux/XkbKeyboardLayout.h"
 
 #include "platform/linux/VirtualKeyCodes.h"
+#include "platform/linux/WaylandKeymap.h"
 #include "platform/linux/XcbXkb.h"
+
+#include <QGuiApplication>
 
 #include <algorithm>
 #include <array>
 #include <bitset>
+#include <chrono>
 #include <utility>
 
 #include <xkbcommon/xkbcommon-x11.h>
@@ -17,6 +21,8 @@ namespace dropshade {
 namespace {
 
 constexpr int letterCount = 26;
+/// For how long the compositor's answer is taken to hold.
+constexpr std::chrono::milliseconds freshness{1000};
 
 /// Dead keys type nothing by themselves; these are the accents engraved on them.
 constexpr std::array<std::pair<xkb_keysym_t, char32_t>, 13> deadKeys{{
@@ -122,16 +128,35 @@ bool XkbKeyboardLayout::didServerChange() const {
 void XkbKeyboardLayout::refreshKeymap() const {
     if (!m_isOpened)
         openServer();
-    if (m_keymap && !(m_server && didServerChange()))
+    if (m_server)
+        readServer();
+    else
+        readCompositor();
+}
+
+void XkbKeyboardLayout::readServer() const {
+    if (m_keymap && !didServerChange())
         return;
-    if (!m_server) {
-        m_keymap.reset(
-            xkb_keymap_new_from_names(m_context.get(), nullptr, XKB_KEYMAP_COMPILE_NO_FLAGS));
-        return;
-    }
     const int device = xkb_x11_get_core_keyboard_device_id(m_server->get());
     m_keymap.reset(xkb_x11_keymap_new_from_device(m_context.get(), m_server->get(), device,
                                                   XKB_KEYMAP_COMPILE_NO_FLAGS));
+}
+
+void XkbKeyboardLayout::readCompositor() const {
+    // A menu asks for several characters at once.
+    if (m_keymap && !m_sinceAsked.hasExpired(freshness.count()))
+        return;
+    m_sinceAsked.start();
+    const bool isWayland = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    const QByteArray text = isWayland ? waylandKeymap() : QByteArray();
+    if (m_keymap && text == m_compositorsKeymap)
+        return;
+    m_compositorsKeymap = text;
+    m_keymap.reset(
+        text.isEmpty()
+            ? xkb_keymap_new_from_names(m_context.get(), nullptr, XKB_KEYMAP_COMPILE_NO_FLAGS)
+            : xkb_keymap_new_from_string(m_context.get(), text.constData(),
+                                         XKB_KEYMAP_FORMAT_TEXT_V1, XKB_KEYMAP_COMPILE_NO_FLAGS));
 }
 
 xkb_layout_index_t XkbKeyboardLayout::currentLayout() const {

@@ -5,13 +5,16 @@
 #include "platform/KeyboardLayout.h"
 #include "platform/linux/XcbConnection.h"
 
+#include <QByteArray>
+#include <QElapsedTimer>
+
 #include <xkbcommon/xkbcommon.h>
 
 namespace dropshade {
 
-/// The keyboard's layout by xkbcommon: on an X server that of the server, elsewhere the system's
-/// default, for a Wayland compositor tells its keymap to windows that have the keyboard alone.
-/// Opened and read at the first question for a character.
+/// The keyboard's layout by xkbcommon: on an X server that of the server, under Wayland the first
+/// one of the compositor's, which tells the one in use to the window that has the keyboard alone;
+/// elsewhere the system's default. Opened and read at the first question for a character.
 class XkbKeyboardLayout : public KeyboardLayout {
 public:
     XkbKeyboardLayout();
@@ -28,6 +31,8 @@ private:
 
     void openServer() const;
     void refreshKeymap() const;
+    void readServer() const;
+    void readCompositor() const;
     [[nodiscard]] bool didServerChange() const;
     [[nodiscard]] xkb_layout_index_t currentLayout() const;
 
@@ -37,6 +42,8 @@ private:
     mutable std::unique_ptr<XcbConnection> m_server;
     mutable std::unique_ptr<xkb_context, Free> m_context;
     mutable std::unique_ptr<xkb_keymap, Free> m_keymap;
+    mutable QByteArray m_compositorsKeymap;
+    mutable QElapsedTimer m_sinceAsked;
 };
 
 } // namespace dropshade
