@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "palettes/SwatchPainting.h"
 
+#include "widgets/ColorConversion.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
 
@@ -17,8 +18,7 @@ constexpr double phantomLine = 1.5;
 } // namespace
 
 QColor screenColor(const SRGBColor& color) {
-    return QColor::fromRgbF(float(color.red()), float(color.green()), float(color.blue()),
-                            float(color.alpha()));
+    return drawable(color);
 }
 
 void drawIcon(QPainter& painter, Icon icon, const QColor& ink, const QPointF& center, int side) {

@@ -2,16 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "color/SRGBColor.h"
+#include "color/ColorConversions.h"
 
 #include <QColor>
 
 namespace dropshade {
 
-/// The colour for Qt to draw.
+/// The colour for Qt to draw and to name, in the bytes that its texts have: Qt's own way down from
+/// fractions cuts where those round.
 [[nodiscard]] inline QColor drawable(const SRGBColor& color) {
-    return QColor::fromRgbF(static_cast<float>(color.red()), static_cast<float>(color.green()),
-                            static_cast<float>(color.blue()), static_cast<float>(color.alpha()));
+    const RGBA8 bytes = rgba255(color);
+    return {static_cast<int>(bytes.red), static_cast<int>(bytes.green),
+            static_cast<int>(bytes.blue), static_cast<int>(bytes.alpha)};
 }
 
 } // namespace dropshade

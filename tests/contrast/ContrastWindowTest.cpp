@@ -251,6 +251,15 @@ TEST_F(ContrastWindowTest, AnImpossibleFixBeeps) {
     EXPECT_EQ(m_beeps, 1);
 }
 
+TEST_F(ContrastWindowTest, TheWellIsCalledByTheBytesThatACopyHas) {
+    // Below the half of a byte at one end, above it at the other.
+    const SRGBColor color(0.6 / 255.0, 254.4 / 255.0, 0.5);
+    model().setBgColor(color);
+    EXPECT_EQ(window().row(Target::background).well().accessibleDescription(),
+              QStringLiteral("#01FE80"));
+    EXPECT_EQ(m_fixture.copier.text(color, ColorFormat::hex), QStringLiteral("#01FE80"));
+}
+
 TEST_F(ContrastWindowTest, ScreenReadersMeetEveryControlByName) {
     const QStringList controls = controlsOf(&window());
     EXPECT_EQ(controls.size(), 2 * (1 + 1 + 3) + 2 + 2) << controls.join(u'\n').toStdString();

@@ -5,6 +5,7 @@
 #include "ColorSelector/SelectorPanel.h"
 #include "convert/ColorPickerWindowController.h"
 #include "convert/FormatList.h"
+#include "convert/PreviewSwatch.h"
 #include "support/AccessibleTree.h"
 #include "support/ColorWindowFixture.h"
 #include "support/QtPrinters.h"
@@ -197,6 +198,14 @@ TEST_F(ColorPickerWindowTest, ASelectorChangesTheColorAndTheField) {
     ASSERT_TRUE(model().parsed());
     EXPECT_EQ(window().input().text(), m_fixture.copier.text(*model().parsed()));
     EXPECT_EQ(window().selectors().components().hue, 1.0);
+}
+
+TEST_F(ColorPickerWindowTest, ThePreviewIsCalledByTheBytesThatACopyHas) {
+    show();
+    model().applyColor(SRGBColor(0.6 / 255.0, 254.4 / 255.0, 0.5));
+    EXPECT_EQ(window().findChild<PreviewSwatch*>()->accessibleDescription(),
+              QStringLiteral("#01FE80"));
+    EXPECT_EQ(window().input().text(), QStringLiteral("#01FE80"));
 }
 
 TEST_F(ColorPickerWindowTest, ArrowKeysMoveThroughTheRowsAndEnterCopies) {
