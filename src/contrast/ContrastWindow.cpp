@@ -11,6 +11,7 @@
 #include "widgets/Metrics.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/TextButton.h"
+#include "widgets/TextField.h"
 #include "widgets/ToolTip.h"
 
 #include <QHBoxLayout>
@@ -43,6 +44,8 @@ ContrastWindow::ContrastWindow(const ColorWindowSurroundings& surroundings, Anno
     connect(&model, &ContrastModel::colorsDidChange, this, &ContrastWindow::showModel);
     connect(&surroundings.settings, &AppSettings::contrastAlgorithmDidChange, this,
             &ContrastWindow::showAlgorithm);
+    for (const QAbstractButton* button : findChildren<QAbstractButton*>())
+        connect(button, &QAbstractButton::pressed, this, &ContrastWindow::endTyping);
     showAlgorithm();
     // Nothing is marked before the first Tab, which goes to the first control.
     setFocus(Qt::OtherFocusReason);
@@ -126,6 +129,13 @@ QWidget* ContrastWindow::makeBar() {
             close();
     });
     return bar;
+}
+
+// A press leaves the keyboard where it is, and with it a typed text, which would show beside the
+// colour that the button brings, and undo it in the end.
+void ContrastWindow::endTyping() {
+    if (qobject_cast<TextField*>(focusWidget()))
+        setFocus(Qt::OtherFocusReason);
 }
 
 void ContrastWindow::showAlgorithm() {

@@ -56,6 +56,13 @@ protected:
         }
         return nullptr;
     }
+    IconButton* iconButton(const char* name) {
+        for (auto* found : window().findChildren<IconButton*>()) {
+            if (found->accessibleName() == QString::fromUtf8(name))
+                return found;
+        }
+        return nullptr;
+    }
     static QAction* row(const QMenu& menu, const char* title) {
         for (QAction* action : menu.actions()) {
             if (action->text() == QString::fromUtf8(title))
@@ -249,6 +256,35 @@ TEST_F(ContrastWindowTest, AnImpossibleFixBeeps) {
     row(*menu(Target::foreground), "AAA (7:1)")->trigger();
     m_fixture.scheduler.advance(0);
     EXPECT_EQ(m_beeps, 1);
+}
+
+TEST_F(ContrastWindowTest, WhatAButtonBringsReplacesATypedTextAndIsNotUndoneByIt) {
+    TextField& text = field(Target::foreground);
+    const auto type = [&text] {
+        text.setFocus();
+        text.selectAll();
+        QTest::keyClicks(&text, QStringLiteral("#999"));
+    };
+    type();
+    QTest::mouseClick(button(&window(), "Swap Colors"), Qt::LeftButton);
+    EXPECT_EQ(text.text(), QStringLiteral("#FFFFFF"));
+    EXPECT_EQ(field(Target::background).text(), QStringLiteral("#999999"));
+
+    type();
+    QTest::mousePress(&window().row(Target::foreground).actionButton(), Qt::LeftButton);
+    model().setBgColor(SRGBColor(1, 1, 1));
+    row(*menu(Target::foreground), "AA (4.5:1)")->trigger();
+    m_fixture.scheduler.advance(0);
+    EXPECT_EQ(text.text(), m_fixture.copier.text(model().fgColor()));
+
+    type();
+    QTest::mouseClick(iconButton("Foreground — pick color from screen"), Qt::LeftButton);
+    m_fixture.scheduler.advance(200);
+    m_fixture.sampler.pick(SRGBColor(1, 0, 0));
+    EXPECT_EQ(text.text(), QStringLiteral("#FF0000"));
+    text.setFocus();
+    field(Target::background).setFocus();
+    EXPECT_EQ(model().fgColor(), SRGBColor(1, 0, 0));
 }
 
 TEST_F(ContrastWindowTest, TheWellIsCalledByTheBytesThatACopyHas) {
