@@ -956,6 +956,18 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
         <comment>APCA help</comment>
         <translation>APCA Lc – empfundener Helligkeitskontrast (APCA-W3). Das Vorzeichen nennt die Polarität (positiv = dunkler Text auf hellem Grund).</translation>
     </message>
+    <message>
+        <source>WCAG 2</source>
+        <comment>Contrast algorithm</comment>
+        <extracomment>A way to measure contrast</extracomment>
+        <translation>WCAG 2</translation>
+    </message>
+    <message>
+        <source>APCA</source>
+        <comment>Contrast algorithm</comment>
+        <extracomment>A way to measure contrast</extracomment>
+        <translation>APCA</translation>
+    </message>
 </context>
 <context>
     <name>dropshade::EmptyState</name>

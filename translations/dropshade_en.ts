@@ -956,6 +956,18 @@ No accounts. No subscriptions. No telemetry.</translation>
         <comment>APCA help</comment>
         <translation>APCA Lc — perceptual lightness contrast (APCA-W3). Sign indicates polarity (positive = dark text on light background).</translation>
     </message>
+    <message>
+        <source>WCAG 2</source>
+        <comment>Contrast algorithm</comment>
+        <extracomment>A way to measure contrast</extracomment>
+        <translation>WCAG 2</translation>
+    </message>
+    <message>
+        <source>APCA</source>
+        <comment>Contrast algorithm</comment>
+        <extracomment>A way to measure contrast</extracomment>
+        <translation>APCA</translation>
+    </message>
 </context>
 <context>
     <name>dropshade::EmptyState</name>

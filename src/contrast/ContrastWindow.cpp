@@ -26,6 +26,14 @@ constexpr int pickerWidth = 160;
 constexpr int doneWidth = 80;
 constexpr int barMargin = 6;
 
+// Here for the tools that collect what is to be translated; the table is below all translation.
+[[maybe_unused]] constexpr const char* marked[][2] = {
+    //: A way to measure contrast
+    QT_TRANSLATE_NOOP3("dropshade::ContrastWindow", "WCAG 2", "Contrast algorithm"),
+    //: A way to measure contrast
+    QT_TRANSLATE_NOOP3("dropshade::ContrastWindow", "APCA", "Contrast algorithm"),
+};
+
 } // namespace
 
 ContrastWindow::ContrastWindow(const ColorWindowSurroundings& surroundings, Announcer& announcer,
