@@ -30,6 +30,10 @@ std::string formatRatio(double ratio) {
     return wholeOrFixed(ratio, 2) + ":1";
 }
 
+std::string formatRatioNumber(double ratio) {
+    return fixed(ratio, 2);
+}
+
 std::string formatLc(double lc) {
     // A negative fraction cuts to minus zero, which the sum makes plain.
     return "Lc " + fixed(std::trunc(lc) + 0.0, 0);

@@ -12,6 +12,10 @@ namespace dropshade {
 /// A ratio: "21:1" where it is a whole number, else two decimals, "4.58:1".
 [[nodiscard]] std::string formatRatio(double ratio);
 
+/// The number of a ratio for a message, always with two decimals: "4.58", "21.00". Ties round as
+/// those of `formatRatio` do.
+[[nodiscard]] std::string formatRatioNumber(double ratio);
+
 /// A signed Lc with its fraction cut off toward zero: "Lc 106", "Lc -107". Cut and not rounded,
 /// since an Lc of 74.9 fails the tier of 75. Never "-0".
 [[nodiscard]] std::string formatLc(double lc);

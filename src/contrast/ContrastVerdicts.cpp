@@ -42,9 +42,9 @@ PillVerdict ContrastVerdicts::wcagPill(const QString& line, const QString& level
     const QString verb =
         passes ? tr("meets", "WCAG verdict — pass") : tr("fails", "WCAG verdict — fail");
     //: %1 a line's description, %2 AA or AAA, %3 the ratio, %4 meets or fails, %5 the minimum
-    const QString tooltip =
-        tr("%1: %2 %3:1 %4 the %5:1 minimum.", "WCAG line badge tooltip")
-            .arg(line, level, QString::number(ratio, 'f', 2), verb, shortNumber(minimum));
+    const QString tooltip = tr("%1: %2 %3:1 %4 the %5:1 minimum.", "WCAG line badge tooltip")
+                                .arg(line, level, QString::fromStdString(formatRatioNumber(ratio)),
+                                     verb, shortNumber(minimum));
     return {level, passes, tooltip};
 }
 

@@ -22,6 +22,17 @@ TEST(FormatRatio, AnyOtherHasTwo) {
     EXPECT_EQ(formatRatio(20.9999), "21.00:1");
 }
 
+TEST(FormatRatioNumber, HasTwoDecimalsAlsoWhereItIsWhole) {
+    EXPECT_EQ(formatRatioNumber(21.0), "21.00");
+    EXPECT_EQ(formatRatioNumber(4.4978), "4.50");
+}
+
+TEST(FormatRatioNumber, RoundsATieAsTheShownRatioDoes) {
+    EXPECT_EQ(formatRatioNumber(4.125) + ":1", formatRatio(4.125));
+    EXPECT_EQ(formatRatioNumber(4.125), "4.12");
+    EXPECT_EQ(formatRatioNumber(4.375), "4.38");
+}
+
 TEST(FormatLc, CutsTheFractionTowardZeroAndKeepsTheSign) {
     EXPECT_EQ(formatLc(106.04), "Lc 106");
     EXPECT_EQ(formatLc(-107.88), "Lc -107");
