@@ -98,9 +98,10 @@ TEST_F(ColorInputModelTest, TheOtherRowsColorTouchesNothingHere) {
 
 TEST_F(ColorInputModelTest, TheTextFollowsAFix) {
     m_model.setFgColor(SRGBColor(0.9, 0.5, 0.5));
-    const QString before = m_row.text();
+    EXPECT_EQ(m_row.text(), QStringLiteral("#E68080"));
     m_model.applyRatioFix(Target::foreground, 7.0);
-    EXPECT_NE(m_row.text(), before);
+    EXPECT_NE(m_row.text(), QStringLiteral("#E68080"));
+    EXPECT_EQ(m_row.text(), m_fixture.copier.text(m_model.fgColor()));
 }
 
 class ColorWellEditTest : public testing::Test {

@@ -225,6 +225,23 @@ TEST(PrefersLightInk, TakesTheInkOfTheHigherRatio) {
     EXPECT_FALSE(prefersLightInk(fromHex(0xFFFF00)));
 }
 
+TEST(PrefersLightInk, OnATieInkIsBlack) {
+    // A colour on which white and black have the same ratio to the last bit.
+    const auto against = [](double blue, const SRGBColor& ink) {
+        return contrastRatio(SRGBColor(0.4, 0.4, blue), ink);
+    };
+    double blue = 0.0;
+    double lighter = 1.0;
+    while ((blue + lighter) * 0.5 != blue && (blue + lighter) * 0.5 != lighter) {
+        const double middle = (blue + lighter) * 0.5;
+        (against(middle, black) < against(middle, white) ? blue : lighter) = middle;
+    }
+    for (int step = 0; step < 100 && against(blue, black) != against(blue, white); ++step)
+        blue = std::nextafter(blue, 1.0);
+    ASSERT_EQ(against(blue, black), against(blue, white));
+    EXPECT_FALSE(prefersLightInk(SRGBColor(0.4, 0.4, blue)));
+}
+
 TEST(ContrastAlgorithms, HaveTheirStoredAndShownNames) {
     ASSERT_EQ(contrastAlgorithms.size(), 2u);
     EXPECT_EQ(contrastAlgorithms[0].algorithm, ContrastAlgorithm::wcag);

@@ -70,6 +70,17 @@ TEST_F(ContrastModelTest, AFixMovesTheTargetAlone) {
     EXPECT_GE(std::abs(m_model.lc()), 75.0);
 }
 
+TEST_F(ContrastModelTest, AFixForLcTakesTheForegroundForTheTextWhicheverOfTheTwoMoves) {
+    for (const Target target : {Target::foreground, Target::background}) {
+        m_model.setFgColor(SRGBColor(0.45, 0.3, 0.3));
+        m_model.setBgColor(SRGBColor(0.5, 0.6, 0.5));
+        EXPECT_TRUE(m_model.applyLcFix(target, 45.0));
+        // Measured the other way round, this pair would end some way above or below.
+        EXPECT_GE(std::abs(m_model.lc()), 45.0);
+        EXPECT_LT(std::abs(m_model.lc()), 45.0 + 1e-9);
+    }
+}
+
 TEST_F(ContrastModelTest, AFixWithoutASolutionBeepsAndLeavesThePairAsItWas) {
     m_model.setBgColor(grey);
     m_model.setFgColor(SRGBColor(0.5, 0.5, 0.5));

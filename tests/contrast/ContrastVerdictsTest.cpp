@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "contrast/ContrastVerdicts.h"
 
+#include "contrast/ContrastMetrics.h"
 #include "contrast/RulerScale.h"
 #include "support/QtPrinters.h"
 
@@ -91,12 +92,54 @@ TEST(ContrastVerdicts, AWordAndItsVerdictMayDisagreeAtTheThirdDecimal) {
     EXPECT_TRUE(lines[0].pills[0].tooltip.contains(QStringLiteral("4.50:1 fails")));
 }
 
-TEST(ContrastVerdicts, FixesStandUnderTheirTitles) {
-    const auto groups = ContrastVerdicts::fixGroups(wcag, 1.0, 0.0);
-    ASSERT_EQ(groups.size(), 2);
-    EXPECT_EQ(groups[0].title, QStringLiteral("Fix for Normal Text"));
-    EXPECT_EQ(groups[1].title, QStringLiteral("Fix for Large Text (≥ 18pt or ≥ 14pt bold)"));
-    EXPECT_EQ(groups[1].fixes[0].wanted, 3.0);
+TEST(ContrastVerdicts, FixesStandUnderTheirTitlesAndWantTheirMinimums) {
+    const auto rows = [](ContrastAlgorithm algorithm) {
+        QStringList result;
+        for (const ContrastFixGroup& group : ContrastVerdicts::fixGroups(algorithm, 1.0, 0.0)) {
+            result.append(group.title);
+            for (const ContrastFix& fix : group.fixes)
+                result.append(QStringLiteral("%1 = %2").arg(fix.title).arg(fix.wanted));
+        }
+        return result;
+    };
+    EXPECT_EQ(rows(wcag),
+              (QStringList{QStringLiteral("Fix for Normal Text"),
+                           QStringLiteral("AA (4.5:1) = 4.5"), QStringLiteral("AAA (7:1) = 7"),
+                           QStringLiteral("Fix for Large Text (≥ 18pt or ≥ 14pt bold)"),
+                           QStringLiteral("AA (3:1) = 3"), QStringLiteral("AAA (4.5:1) = 4.5")}));
+    EXPECT_EQ(rows(apca), (QStringList{QStringLiteral("Fix for APCA"),
+                                       QStringLiteral("Normal text (Lc 75) = 75"),
+                                       QStringLiteral("Large text (Lc 45) = 45"),
+                                       QStringLiteral("Graphics and UI (Lc 30) = 30")}));
+}
+
+TEST(ContrastVerdicts, AFixIsThereBelowItsMinimumWhateverThePolarity) {
+    EXPECT_EQ(enabledFixes(apca, 1.0, -44.9).size(), 2);
+    EXPECT_EQ(enabledFixes(apca, 1.0, -45.0), QStringList{QStringLiteral("Normal text (Lc 75)")});
+    EXPECT_EQ(passing(apca, 1.0, -45.0), (QList<bool>{false, true, true}));
+    EXPECT_EQ(enabledFixes(wcag, 2.999, 0.0).size(), 4);
+    EXPECT_EQ(enabledFixes(wcag, 3.0, 0.0).size(), 3);
+    EXPECT_TRUE(enabledFixes(wcag, 7.0, 0.0).isEmpty());
+}
+
+TEST(ContrastVerdicts, TheSampleHasItsLinesInTheirSizesAndWeights) {
+    const auto lines = [](ContrastAlgorithm algorithm) {
+        QStringList result;
+        for (const SampleLine& line : ContrastVerdicts::sampleLines(algorithm, 21.0, 106.0)) {
+            QStringList words{line.text, QString::number(line.sizePt),
+                              line.weight == fontWeight::semibold ? QStringLiteral("semibold")
+                                                                  : QString::number(line.weight)};
+            for (const PillVerdict& pill : line.pills)
+                words.append(pill.word);
+            result.append(words.join(u' '));
+        }
+        return result;
+    };
+    EXPECT_EQ(lines(wcag), (QStringList{QStringLiteral("Normal text 16 0 AA AAA"),
+                                        QStringLiteral("Large text 24 semibold AA AAA")}));
+    EXPECT_EQ(lines(apca), (QStringList{QStringLiteral("Normal text 16 0 Lc 75"),
+                                        QStringLiteral("Large text 24 semibold Lc 45"),
+                                        QStringLiteral("Graphics and UI 13 0 Lc 30")}));
 }
 
 TEST(RulerScale, PutsRatiosOnALogarithmicScale) {

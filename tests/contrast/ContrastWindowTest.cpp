@@ -3,6 +3,7 @@
 #include "contrast/ContrastWindow.h"
 
 #include "ColorSelector/SelectorPanel.h"
+#include "app/RecentColor.h"
 #include "contrast/ColorInputRow.h"
 #include "contrast/ContrastWindowController.h"
 #include "contrast/InlineColorWell.h"
@@ -101,6 +102,38 @@ TEST_F(ContrastWindowTest, HasItsMeasuresInBothModes) {
     EXPECT_EQ(window().height(), before);
 }
 
+TEST_F(ContrastWindowTest, NamesItsMeasureAndSaysWhatItIs) {
+    const auto words = [this] {
+        QStringList result;
+        for (const Label* label : window().findChildren<Label*>())
+            result.append(label->text());
+        return result;
+    };
+    EXPECT_TRUE(words().contains(QStringLiteral("RATIO")));
+    EXPECT_TRUE(words().contains(QStringLiteral("21:1")));
+    m_fixture.settings.setContrastAlgorithm(ContrastAlgorithm::apca);
+    EXPECT_TRUE(words().contains(QStringLiteral("APCA")));
+    EXPECT_TRUE(words().contains(QStringLiteral("Lc 106")));
+    QStringList toolTips;
+    for (const QWidget* widget : window().findChildren<QWidget*>())
+        toolTips.append(widget->toolTip());
+    for (const char* text :
+         {"APCA Lc — perceptual lightness contrast (APCA-W3). Sign indicates polarity (positive = "
+          "dark text on light background).",
+          "Choose how contrast is measured. WCAG 2 reports a luminance ratio; APCA reports "
+          "perceptual lightness contrast (Lc).",
+          "Swap background and foreground", "Pick color from screen", "Copy", "More actions",
+          "Edit color", "Couldn't parse this color"})
+        EXPECT_TRUE(toolTips.contains(QString::fromUtf8(text))) << text;
+}
+
+TEST_F(ContrastWindowTest, ShowingAgainBringsTheSameWindowForwardAndItsSizeIsFixed) {
+    const ContrastWindow* first = &window();
+    show();
+    EXPECT_EQ(&window(), first);
+    EXPECT_EQ(window().minimumSize(), window().maximumSize());
+}
+
 TEST_F(ContrastWindowTest, ThePickerStoresTheSetting) {
     auto segments = window().algorithmPicker().findChildren<QAbstractButton*>();
     QTest::mouseClick(segments[1], Qt::LeftButton);
@@ -181,7 +214,18 @@ TEST_F(ContrastWindowTest, CopyingCountsForNothing) {
     }
     EXPECT_EQ(m_fixture.pasteboard.copies(), QStringList{QStringLiteral("#FFFFFF")});
     EXPECT_EQ(m_fixture.checks(), 0);
+    EXPECT_TRUE(loadRecentColors(m_fixture.defaults).isEmpty());
     EXPECT_EQ(m_fixture.soundPlayer.played().size(), 1);
+}
+
+TEST_F(ContrastWindowTest, ACancelledSampleBringsTheWindowBackAsItWas) {
+    model().pickAction(Target::foreground);
+    m_fixture.scheduler.advance(200);
+    EXPECT_FALSE(window().isVisible());
+    m_fixture.sampler.cancel();
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(model().fgColor(), SRGBColor());
+    EXPECT_EQ(m_fixture.checks(), 0);
 }
 
 TEST_F(ContrastWindowTest, ASampleIsCountedAndBecomesTheColor) {
@@ -207,6 +251,24 @@ TEST_F(ContrastWindowTest, TheMenuHasItsSectionsInOrder) {
                      QStringLiteral("AA (3:1)"), QStringLiteral("AAA (4.5:1)")}));
 }
 
+TEST_F(ContrastWindowTest, UnderApcaTheMenuHasItsThreeFixesAndTheyWork) {
+    m_fixture.settings.setContrastAlgorithm(ContrastAlgorithm::apca);
+    model().setFgColor(SRGBColor(0.8, 0.8, 0.8));
+    const auto built = menu(Target::background);
+    QStringList titles;
+    for (const QAction* action : built->actions().mid(3))
+        titles.append(action->text());
+    EXPECT_EQ(titles,
+              (QStringList{QStringLiteral("Fix for APCA"), QStringLiteral("Normal text (Lc 75)"),
+                           QStringLiteral("Large text (Lc 45)"),
+                           QStringLiteral("Graphics and UI (Lc 30)")}));
+    row(*built, "Large text (Lc 45)")->trigger();
+    m_fixture.scheduler.advance(0);
+    EXPECT_GE(std::abs(model().lc()), 45.0);
+    EXPECT_EQ(model().fgColor(), SRGBColor(0.8, 0.8, 0.8));
+    EXPECT_NE(model().bgColor(), SRGBColor(1, 1, 1));
+}
+
 TEST_F(ContrastWindowTest, CopyAsHoldsEveryFormatUnderItsGroup) {
     const auto built = menu(Target::background);
     const QMenu* formats = row(*built, "Copy As")->menu();
@@ -224,6 +286,7 @@ TEST_F(ContrastWindowTest, CopyAsHoldsEveryFormatUnderItsGroup) {
     row(*formats, "CSS RGB")->trigger();
     EXPECT_EQ(m_fixture.pasteboard.copies(), QStringList{QStringLiteral("rgb(255 255 255)")});
     EXPECT_EQ(m_fixture.checks(), 0);
+    EXPECT_TRUE(loadRecentColors(m_fixture.defaults).isEmpty());
 }
 
 TEST_F(ContrastWindowTest, PasteIsThereForAColorAndReadsTheClipboardAnew) {

@@ -110,6 +110,14 @@ TEST(WithNearestPassingLightness, WalksOnTowardTheEndWhenTheMeasureChangesItsMin
     EXPECT_NEAR(found->red(), 0.753, 1e-12);
 }
 
+TEST(WithNearestPassingLightness, AWalkEndsWhereTheLightnessDoes) {
+    int calls = 0;
+    const auto denied = [&calls](const SRGBColor& c) { return ++calls <= 62 && c.red() >= 0.9955; };
+    EXPECT_FALSE(withNearestPassingLightness(middleGrey, denied));
+    // The black end, the white end, sixty middles and the good one again; then 0.9965 to 0.9995.
+    EXPECT_EQ(calls, 1 + 1 + 60 + 1 + 4);
+}
+
 TEST(WithNearestPassingLightness, WalksFiftyStepsAndNoMore) {
     int calls = 0;
     EXPECT_TRUE(withNearestPassingLightness(middleGrey, Fickle{0.7995, &calls}));
