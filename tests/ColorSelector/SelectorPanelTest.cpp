@@ -3,11 +3,14 @@
 #include "ColorSelector/SelectorPanel.h"
 
 #include "support/FakeAppearance.h"
+#include "widgets/Metrics.h"
 
 #include <QAccessible>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace dropshade {
 namespace {
@@ -67,6 +70,17 @@ TEST_F(SelectorPanelTest, ADragBeyondTheWidgetKeepsTheValueAtItsLimit) {
     release(hue, -3.0, 9.0);
     drag(hue, 0.5, 0.5);
     EXPECT_EQ(m_panel.components().hue, 0.0) << "nothing moves once the button is up";
+}
+
+TEST_F(SelectorPanelTest, TheAlphaSliderEditsTheAlphaAloneAndStaysAtItsLimits) {
+    Selector& alpha = *m_panel.alphaSlider();
+    press(alpha, 0.25, 0.5);
+    EXPECT_EQ(m_panel.components(), (HSBComponents{0.25, 0.5, 0.75, 0.25}));
+    drag(alpha, 2.0, 0.5);
+    EXPECT_EQ(m_panel.components(), (HSBComponents{0.25, 0.5, 0.75, 1.0}));
+    drag(alpha, -2.0, 0.5);
+    EXPECT_EQ(m_panel.components(), (HSBComponents{0.25, 0.5, 0.75, 0.0}));
+    release(alpha, -2.0, 0.5);
 }
 
 TEST_F(SelectorPanelTest, BothEndsOfTheHueSliderAreTheSameRed) {
@@ -148,6 +162,40 @@ TEST_F(SelectorPanelTest, TheTrackShowsTheHuesFromRedToRed) {
     EXPECT_NEAR(hueAt(0.5), 180, 3);
     EXPECT_NEAR(hueAt(0.667), 240, 3);
     EXPECT_NEAR(hueAt(0.9), 324, 4);
+}
+
+TEST_F(SelectorPanelTest, TheAlphaTrackGoesFromTheCheckerboardToTheColor) {
+    m_panel.setComponents({0.0, 1.0, 1.0, 0.5});
+    const QImage image = m_panel.alphaSlider()->grab().toImage();
+    const auto pixelAt = [&](double x, double y) {
+        return QColor(image.pixel(at(*m_panel.alphaSlider(), x, y)));
+    };
+    // Neighbouring squares of the board, where the colour is all but transparent.
+    const QColor one = pixelAt(0.03, 0.3);
+    const QColor other = pixelAt(0.03, 0.6);
+    EXPECT_NEAR(std::max(one.green(), other.green()), 0.9 * 255.0 * 0.97, 8.0);
+    EXPECT_NEAR(std::min(one.green(), other.green()), 0.7 * 255.0 * 0.97, 8.0);
+    const QColor end = pixelAt(0.97, 0.5);
+    EXPECT_GT(end.red(), 245);
+    EXPECT_LT(end.green(), 12);
+}
+
+TEST_F(SelectorPanelTest, AThumbShowsItsColorInAWhiteRing) {
+    m_panel.setComponents({0.5, 1.0, 1.0, 1.0});
+    const QImage image = m_panel.hueSlider().grab().toImage();
+    const QPoint middle = at(m_panel.hueSlider(), 0.5, 0.5);
+    EXPECT_EQ(QColor(image.pixel(middle)), QColor(0, 255, 255));
+    const QPoint ring(metrics::thumb / 2 - 1, 0);
+    EXPECT_EQ(QColor(image.pixel(middle - ring)), QColor(Qt::white));
+}
+
+TEST(SelectorSizes, AreATenPointThumbAndWhateverIsSet) {
+    FakeAppearance appearance;
+    const Look look(appearance);
+    Saturation square(look);
+    EXPECT_EQ(square.reach(), 5 + metrics::focusReach) << "half of the thumb, and a ring";
+    square.setPointSize(20.0);
+    EXPECT_EQ(square.reach(), 10 + metrics::focusReach);
 }
 
 TEST_F(SelectorPanelTest, TheSquareIsPureAtItsTopRightAndNearlyBlackAtItsBottom) {

@@ -138,6 +138,22 @@ TEST_F(ColorPickerModelTest, ACopyDoesNotRememberWhereTheUserWantsNoRecents) {
     EXPECT_EQ(m_fixture.checks(), 1);
 }
 
+TEST_F(ColorPickerModelTest, ACopyDoesNotRememberWhereRecentsAreNotShown) {
+    m_model.setInput(QStringLiteral("red"));
+    m_fixture.defaults.setValue(keys::showRecentColors, false);
+    m_model.copyRowColor();
+    EXPECT_TRUE(loadRecentColors(m_fixture.defaults).isEmpty());
+    EXPECT_EQ(m_fixture.pasteboard.copies(), QStringList{QStringLiteral("#FF0000")});
+}
+
+TEST_F(ColorPickerModelTest, ACopyIsSilentWhereTheUserWantsNoSound) {
+    m_model.setInput(QStringLiteral("red"));
+    m_fixture.defaults.setValue(keys::copySound, QStringLiteral("none"));
+    m_model.copyRowColor();
+    EXPECT_TRUE(m_fixture.soundPlayer.played().isEmpty());
+    EXPECT_EQ(m_fixture.pasteboard.copies(), QStringList{QStringLiteral("#FF0000")});
+}
+
 TEST_F(ColorPickerModelTest, EachCallToTheFrontRaisesTheToken) {
     m_model.raiseFocusToken();
     m_model.raiseFocusToken();

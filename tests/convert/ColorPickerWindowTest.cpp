@@ -9,7 +9,9 @@
 #include "support/AccessibleTree.h"
 #include "support/ColorWindowFixture.h"
 #include "support/QtPrinters.h"
+#include "widgets/Hairline.h"
 #include "widgets/IconButton.h"
+#include "widgets/Label.h"
 #include "widgets/TextField.h"
 
 #include <QTest>
@@ -33,6 +35,13 @@ protected:
     void type(const QString& text) {
         window().input().selectAll();
         QTest::keyClicks(&window().input(), text);
+    }
+    Label* label(const char* words) {
+        for (auto* found : window().findChildren<Label*>()) {
+            if (found->text() == QLatin1String(words))
+                return found;
+        }
+        return nullptr;
     }
     IconButton* button(const char* name) {
         for (auto* found : window().findChildren<IconButton*>()) {
@@ -76,6 +85,51 @@ TEST_F(ColorPickerWindowTest, AFailedParseMarksTheFieldAndKeepsTheRowsInPlace) {
         EXPECT_FALSE(row->isEnabled());
     }
     EXPECT_FALSE(button("Copy color")->isEnabled());
+}
+
+TEST_F(ColorPickerWindowTest, AFailedParseIsExplainedAboveTheRowsAndOnlyThen) {
+    show();
+    type(QStringLiteral("redd"));
+    const Label* message =
+        label("Couldn't parse this color. Try a hex (#ff0080), rgb(), hsl(), or a CSS color name.");
+    ASSERT_TRUE(message);
+    EXPECT_TRUE(message->isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_LT(message->mapTo(&window().formats(), QPoint(0, message->height())).y(),
+              window().formats().rows().first()->y());
+    type(QStringLiteral("red"));
+    EXPECT_FALSE(message->isVisible());
+}
+
+TEST_F(ColorPickerWindowTest, RowsStandByGroupsUnderTitlesInCapitalsWithADividerBetweenGroups) {
+    show();
+    type(QStringLiteral("red"));
+    QStringList titles;
+    for (const Label* title : window().formats().findChildren<Label*>()) {
+        if (title->isVisible())
+            titles.append(title->text());
+    }
+    EXPECT_EQ(titles, (QStringList{QStringLiteral("WEB"), QStringLiteral("NSCOLOR"),
+                                   QStringLiteral("UICOLOR"), QStringLiteral("SWIFTUI"),
+                                   QStringLiteral("OBJECTIVE-C"), QStringLiteral(".NET"),
+                                   QStringLiteral("JAVA"), QStringLiteral("ANDROID")}));
+    int dividers = 0;
+    for (const Hairline* line : window().formats().findChildren<Hairline*>())
+        dividers += line->isVisible() ? 1 : 0;
+    EXPECT_EQ(dividers, 7);
+    EXPECT_EQ(window().formats().row(ColorFormat::cssRGB)->toolTip(),
+              QStringLiteral("Copy as CSS RGB"));
+}
+
+TEST_F(ColorPickerWindowTest, TheEmptyStateAndTheFieldSayWhatToDo) {
+    show();
+    EXPECT_EQ(window().input().placeholderText(), QStringLiteral("Paste or type a color"));
+    for (const char* words :
+         {"Pick a color to see every format", "Then copy the format you need and carry on!"}) {
+        const Label* shown = label(words);
+        ASSERT_TRUE(shown) << words;
+        EXPECT_TRUE(shown->isVisible()) << words;
+    }
 }
 
 TEST_F(ColorPickerWindowTest, WithoutATextThereIsTheEmptyStateAndNoClearButton) {

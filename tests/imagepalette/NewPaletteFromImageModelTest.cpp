@@ -297,6 +297,7 @@ TEST_F(NewPaletteFromImage, RemoveCancelsTheComputation) {
     m_model.removeImage();
     m_desk.queue().land();
     EXPECT_EQ(colors(), 0U);
+    EXPECT_TRUE(m_model.isProcessing()) << "the next image's computation ends it";
 }
 
 TEST_F(NewPaletteFromImage, AfterRemoveTheControlsComputeNothing) {

@@ -3,6 +3,7 @@
 #include "imagepalette/NewPaletteFromImageView.h"
 
 #include "imagepalette/NewPaletteFromImageWindowController.h"
+#include "imagepalette/PreviewStrip.h"
 #include "imagepalette/SampleFiles.h"
 #include "imagepalette/StripSwatch.h"
 #include "support/FakeAppearance.h"
@@ -20,6 +21,9 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <array>
+#include <functional>
 
 namespace dropshade {
 namespace {
@@ -90,6 +94,52 @@ TEST_F(NewPaletteFromImageSheet, IsOfItsSizeAndNoSmallerThanItsLeast) {
     EXPECT_EQ(sheet().size(), QSize(460, 600));
     EXPECT_EQ(sheet().minimumSize(), QSize(440, 560));
     EXPECT_EQ(sheet().windowModality(), Qt::WindowModal);
+}
+
+TEST_F(NewPaletteFromImageSheet, SaysWhatItWantsInTheseWords) {
+    present();
+    for (const char* words : {"Colors", "Algorithm", "Sort by", "Name", "8"})
+        EXPECT_TRUE(shows(QString::fromLatin1(words))) << words;
+    EXPECT_EQ(named<TextField>(QStringLiteral("Name"))->placeholderText(),
+              QStringLiteral("Untitled Palette"));
+    EXPECT_EQ(named<QAbstractButton>(QStringLiteral("Drop an image, paste, or click to browse"))
+                  ->accessibleDescription(),
+              QStringLiteral("PNG, JPEG, HEIC, TIFF, GIF, BMP, or WebP"));
+    EXPECT_EQ(sheet().findChild<PreviewStrip*>()->accessibleName(),
+              QStringLiteral("Load an image to generate a palette."));
+    EXPECT_EQ(named<QAbstractButton>(QStringLiteral("Remove image"))->toolTip(),
+              QStringLiteral("Remove image"));
+    const auto* slider = named<Slider>(QStringLiteral("Colors"));
+    EXPECT_EQ(slider->minimum(), 2);
+    EXPECT_EQ(slider->maximum(), 24);
+    EXPECT_EQ(slider->singleStep(), 1);
+}
+
+TEST_F(NewPaletteFromImageSheet, WithoutAHostItStandsAlone) {
+    m_controller.present(nullptr, photo(), QStringLiteral("photo"));
+    EXPECT_EQ(sheet().windowModality(), Qt::NonModal);
+    finish();
+    QTest::mouseClick(named<QAbstractButton>(QStringLiteral("Create Palette")), Qt::LeftButton);
+    EXPECT_EQ(m_controller.window(), nullptr);
+    EXPECT_EQ(m_machine.store().palettes().last().name(), QStringLiteral("Photo"));
+}
+
+TEST_F(NewPaletteFromImageSheet, CancelEscapeAndControlWCloseItWithoutAPalette) {
+    const auto before = m_machine.store().palettes().size();
+    const std::array<std::function<void()>, 3> ways = {
+        [this] {
+            QTest::mouseClick(named<QAbstractButton>(QStringLiteral("Cancel")), Qt::LeftButton);
+        },
+        [this] { QTest::keyClick(&sheet(), Qt::Key_Escape); },
+        [this] { QTest::keyClick(&sheet(), Qt::Key_W, Qt::ControlModifier); }};
+    for (const auto& close : ways) {
+        present(photo(), QStringLiteral("photo"));
+        finish();
+        close();
+        EXPECT_EQ(m_controller.window(), nullptr);
+        turnEventLoop();
+    }
+    EXPECT_EQ(m_machine.store().palettes().size(), before);
 }
 
 TEST_F(NewPaletteFromImageSheet, OneThatIsUpStaysAndTheNewImageIsLost) {
@@ -171,7 +221,10 @@ TEST_F(NewPaletteFromImageSheet, AClickInTheEmptyZoneBrowsesAndOneInTheImageDoes
     auto* zone = named<QAbstractButton>(QStringLiteral("Drop an image, paste, or click to browse"));
     QTest::mouseClick(zone, Qt::LeftButton);
     ASSERT_EQ(m_panels.panels().size(), 1);
-    EXPECT_TRUE(m_panels.panels().first().kind.extensions.contains(QStringLiteral("webp")));
+    for (const char* extension :
+         {"png", "jpg", "jpeg", "tif", "tiff", "gif", "bmp", "heic", "webp"})
+        EXPECT_TRUE(m_panels.panels().first().kind.extensions.contains(QLatin1String(extension)))
+            << extension;
     m_panels.choose(QStringLiteral("/no/such/file.png"));
     EXPECT_TRUE(shows(QStringLiteral("Unsupported image format.")));
     sheet().close();
