@@ -116,6 +116,18 @@ TEST_F(PaletteStore, ReplacesTheListAsItIsWithNoStampAndNoSave) {
     EXPECT_FALSE(store().hasPendingSave());
 }
 
+TEST_F(PaletteStore, AppendsAPaletteAsItIsAndValidatesPinsAtItsSave) {
+    pinEverything();
+    store().setPalettes({m_land});
+    const Palette other(m_land.name(), {}, ReferenceTime{12.5});
+    store().appendPalette(other);
+    EXPECT_TRUE(areSame(store().palettes(), {m_land, other})) << "last, and its name stays";
+    EXPECT_EQ(settings().pinnedColors().size(), 5);
+    scheduler().advance(250);
+    EXPECT_EQ(settings().pinnedColors().size(), 1);
+    EXPECT_TRUE(areSame(*stored(), {m_land, other}));
+}
+
 TEST_F(PaletteStore, LeavesNoWorkBehindWhenItEnds) {
     store().renamePalette(seaId(), QStringLiteral("New"));
     m_machine.kill();
