@@ -243,6 +243,19 @@ class ContrastWindow(WindowCase):
         self.assertEqual(self.copied_from(self.FOREGROUND), "#D4D4D4")
         self.assertEqual(self.checks_made(), 1)
 
+    def test_a_typed_text_does_not_undo_the_sample_that_came_after_it(self):
+        self.open()
+        self.retype(self.FOREGROUND, "#FF0000")
+        self.click_in(CONTRAST, 324, self.FOREGROUND)
+        self.wait_for_loupe()
+        self.desktop.click(20, 700)
+        self.wait_for_window(CONTRAST)
+        self.click_in(CONTRAST, 200, self.FOREGROUND)
+        self.settle()
+        self.click_in(CONTRAST, 200, self.BACKGROUND)
+        self.settle()
+        self.assertEqual(self.copied_from(self.FOREGROUND), "#D4D4D4")
+
     def test_the_window_follows_the_desktops_scheme_while_it_is_open(self):
         self.open()
         corner = self.at(CONTRAST, 4, 4)
