@@ -3,30 +3,12 @@
 #include "color/ColorFormat.h"
 #include "color/ColorParser.h"
 
-#include <gtest/gtest.h>
+#include "support/CommaLocales.h"
 
-#include <array>
-#include <clocale>
-#include <cstdio>
-#include <cstdlib>
-#include <locale>
-#include <string>
+#include <gtest/gtest.h>
 
 namespace dropshade {
 namespace {
-
-class CommaPunctuation : public std::numpunct<char> {
-protected:
-    char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\1"; }
-};
-
-bool printfWritesACommaNow() {
-    std::array<char, 8> text;
-    std::snprintf(text.data(), text.size(), "%.1f", 0.5);
-    return text[1] == ',';
-}
 
 void expectFullStopsEverywhere() {
     const SRGBColor color(1.0, 0.0, 128.0 / 255.0, 0.25);
@@ -41,40 +23,16 @@ void expectFullStopsEverywhere() {
     EXPECT_EQ(parseColor("rgb(127,5 0 0)"), std::nullopt);
 }
 
-class CLocale : public testing::Test {
-protected:
-    void TearDown() override {
-        std::setlocale(LC_ALL, "C");
-        std::locale::global(std::locale::classic());
-    }
-
-    // Installed, or compiled for this test where the C library's locale sources are at hand.
-    static bool setGerman() {
-        if (std::setlocale(LC_ALL, "de_DE.UTF-8"))
-            return true;
-        const std::string folder = testing::TempDir() + "dropshade-locale";
-        const std::string command = "mkdir -p '" + folder +
-                                    "' && localedef --no-archive -i de_DE -f UTF-8 '" + folder +
-                                    "/de_DE.UTF-8' >/dev/null 2>&1";
-        if (std::system(command.c_str()) != 0)
-            return false;
-        setenv("LOCPATH", folder.c_str(), 1);
-        return std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
-    }
-};
-
-TEST_F(CLocale, OfGermanChangesNoText) {
-    if (!setGerman())
+TEST(CLocale, OfGermanChangesNoText) {
+    const GermanCLocale german;
+    if (!german.isSet())
         GTEST_SKIP() << "no German locale here, and none can be compiled";
-    ASSERT_TRUE(printfWritesACommaNow());
     expectFullStopsEverywhere();
 }
 
 TEST(CppLocale, WithADecimalCommaChangesNoText) {
-    const std::locale before =
-        std::locale::global(std::locale(std::locale::classic(), new CommaPunctuation));
+    const CommaCppLocale commas;
     expectFullStopsEverywhere();
-    std::locale::global(before);
 }
 
 } // namespace
