@@ -241,6 +241,9 @@ TEST_F(NewPaletteFromImageSheet, AnAnswerOfThePanelAfterTheSheetHasGoneDoesNothi
     sheet().close();
     turnEventLoop();
     m_panels.choose(QStringLiteral("/no/such/file.png"));
+    EXPECT_EQ(m_controller.window(), nullptr);
+    present();
+    EXPECT_FALSE(shows(QStringLiteral("Unsupported image format.")));
 }
 
 TEST_F(NewPaletteFromImageSheet, TheStripGrowsToTwoRowsFromThirteenColorsOn) {
