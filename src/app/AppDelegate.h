@@ -133,6 +133,7 @@ private:
     [[nodiscard]] ColorWindowSurroundings colorWindowSurroundings();
     void finishPick(const std::optional<SRGBColor>& color);
     void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
+    [[nodiscard]] std::optional<QString> palettesShortcutText() const;
     PalettesWindowController& palettesController();
     NewPaletteFromImageWindowController& newPaletteFromImageController();
 

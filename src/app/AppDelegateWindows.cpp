@@ -32,20 +32,30 @@ void AppDelegate::openColorPicker() {
     m_colorPickerController->show();
 }
 
+/// What is stored means nothing where the desktop has the keys.
+std::optional<QString> AppDelegate::palettesShortcutText() const {
+    if (!m_shortcuts.isAvailable()) {
+        const QString trigger = m_desktopBindings.trigger(shortcutNames::palettes);
+        return trigger.isEmpty() ? std::nullopt : std::optional(trigger);
+    }
+    const auto shortcut = m_shortcuts.getShortcut(shortcutNames::palettes);
+    return shortcut ? std::optional(description(*shortcut, *m_platform.keyboardLayout))
+                    : std::nullopt;
+}
+
 /// The window is built here and not after the launch: hidden, it would be most of the memory of a
 /// program that is its status item.
 PalettesWindowController& AppDelegate::palettesController() {
     if (!m_palettesController) {
-        const auto shortcutText = [this]() -> std::optional<QString> {
-            const auto shortcut = m_shortcuts.getShortcut(shortcutNames::palettes);
-            return shortcut ? std::optional(description(*shortcut, *m_platform.keyboardLayout))
-                            : std::nullopt;
-        };
         m_palettesController = std::make_unique<PalettesWindowController>(
             PalettesWindowController::Surroundings{look(),
                                                    {*m_platform.defaults, *m_platform.scheduler,
                                                     m_settings, paletteStore(), m_presets, *this},
-                                                   shortcutText});
+                                                   [this] { return palettesShortcutText(); }});
+        connect(&m_shortcuts, &KeyboardShortcuts::shortcutByNameDidChange,
+                m_palettesController.get(), &PalettesWindowController::followShortcut);
+        connect(&m_desktopBindings, &DesktopBindings::didChange, m_palettesController.get(),
+                &PalettesWindowController::followShortcut);
     }
     return *m_palettesController;
 }

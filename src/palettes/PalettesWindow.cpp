@@ -143,11 +143,15 @@ void PalettesWindow::resizeEvent(QResizeEvent* event) {
 
 void PalettesWindow::showEvent(QShowEvent* event) {
     FloatingWindow::showEvent(event);
-    m_emptyState->setShortcut(m_shortcutText());
+    followShortcut();
     if (m_model.store().palettes().isEmpty())
         m_emptyState->setFocus();
     else
         m_list->setFocus();
+}
+
+void PalettesWindow::followShortcut() {
+    m_emptyState->setShortcut(m_shortcutText());
 }
 
 void PalettesWindow::closeEvent(QCloseEvent* event) {

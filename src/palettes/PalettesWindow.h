@@ -50,6 +50,8 @@ public:
     [[nodiscard]] ListKeys& keys() { return *m_keys; }
 
     void showPresetPicker();
+    /// Shows the present global shortcut where the window tells it.
+    void followShortcut();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -34,6 +34,11 @@ void PalettesWindowController::close() {
         m_window->close();
 }
 
+void PalettesWindowController::followShortcut() {
+    if (m_window)
+        m_window->followShortcut();
+}
+
 void PalettesWindowController::flush() {
     if (m_model.store().hasPendingSave())
         m_model.store().flushPendingSave();

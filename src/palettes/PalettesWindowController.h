@@ -38,6 +38,9 @@ public:
     void bringUp();
     void close();
 
+    /// The global shortcut that opens the window is another one.
+    void followShortcut();
+
 private:
     void flush();
 

@@ -13,6 +13,7 @@
 #include "support/QtPrinters.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMenu>
 #include <QPointer>
 #include <QTemporaryDir>
@@ -69,6 +70,13 @@ protected:
         Q_EMIT window.list().activationRequested(
             {ListElement::Part::Swatch, palette.id(), scale.id(), scale.swatches().first().id()});
     }
+    static bool says(QWidget& window, const QString& words) {
+        const auto labels = window.findChildren<QLabel*>();
+        return std::any_of(labels.begin(), labels.end(), [&words](const QLabel* label) {
+            return label->isVisible() && label->text() == words;
+        });
+    }
+
     const QString settings = QStringLiteral("Dropshade Settings");
     const QString about = QStringLiteral("About");
     const QString convert = QStringLiteral("Color Picker");
@@ -195,6 +203,36 @@ TEST_F(AppDelegateWindows, ACopyClosesThePalettesOnlyWhereTheSettingSaysSo) {
     EXPECT_TRUE(window.isVisible()) << "a copy from elsewhere";
     copySwatch(window);
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(AppDelegateWindows, WithoutPalettesTheWindowTellsThePresentShortcutOrHowToSetOne) {
+    delegate.paletteStore().setPalettes({});
+    PalettesWindow& window = palettesWindow();
+    EXPECT_TRUE(says(window, QStringLiteral("No palettes yet")));
+    EXPECT_TRUE(
+        says(window, QStringLiteral("Organize your colors into palettes for quick access. Start "
+                                    "from a built-in preset or create a blank palette to fill in "
+                                    "yourself.")));
+    const QString howTo =
+        QStringLiteral("Tip: Set a hotkey in Settings to open Palettes from anywhere.");
+    EXPECT_TRUE(says(window, howTo));
+    delegate.shortcuts().setShortcut(Shortcut{96, controlKey}, shortcutNames::palettes);
+    EXPECT_TRUE(says(window, QStringLiteral("Tip: Press ⌃F5 from anywhere to open Palettes.")));
+    delegate.shortcuts().setShortcut(std::nullopt, shortcutNames::palettes);
+    EXPECT_TRUE(says(window, howTo));
+}
+
+TEST_F(AppDelegateWindows, WhereTheDesktopHasTheKeysTheWindowTellsThatOfTheDesktop) {
+    fakes.hotKeys.setAvailable(false);
+    delegate.shortcuts().setShortcut(Shortcut{96, controlKey}, shortcutNames::palettes);
+    delegate.paletteStore().setPalettes({});
+    PalettesWindow& window = palettesWindow();
+    EXPECT_TRUE(says(
+        window, QStringLiteral("Tip: Set a hotkey in Settings to open Palettes from anywhere.")));
+    fakes.desktopShortcuts.answer(
+        {{shortcutNames::palettes.rawValue, QStringLiteral("Meta+Shift+P")}});
+    EXPECT_TRUE(
+        says(window, QStringLiteral("Tip: Press Meta+Shift+P from anywhere to open Palettes.")));
 }
 
 } // namespace
