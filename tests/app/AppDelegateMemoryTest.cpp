@@ -68,20 +68,22 @@ TEST_F(AppDelegateMemory, RemembersNoColorOfACancelledSample) {
     EXPECT_FALSE(m_fakes.defaults.contains(keys::recentColors));
 }
 
-TEST_F(AppDelegateMemory, CopiesAndCountsButRemembersNothingWhereRecentColorsAreOff) {
+TEST_F(AppDelegateMemory, CopiesCountsAndIsHeardButRemembersNothingWhereRecentColorsAreOff) {
     m_fakes.defaults.setValue(keys::showRecentColors, false);
     launch().copyColor(pink);
     EXPECT_FALSE(m_fakes.defaults.contains(keys::recentColors));
     EXPECT_EQ(m_fakes.pasteboard.text(), QStringLiteral("#FF0080"));
     EXPECT_EQ(m_fakes.defaults.read<qint64>(keys::totalChecksCount), 1);
+    EXPECT_EQ(m_fakes.soundPlayer.played().size(), 1);
 }
 
-TEST_F(AppDelegateMemory, CopiesAndCountsButRemembersNothingWithALimitOfZero) {
+TEST_F(AppDelegateMemory, CopiesCountsAndIsHeardButRemembersNothingWithALimitOfZero) {
     m_fakes.defaults.setValue(keys::recentColorsLimit, qint64(0));
     launch().copyColor(pink);
     EXPECT_FALSE(m_fakes.defaults.contains(keys::recentColors));
     EXPECT_EQ(m_fakes.pasteboard.text(), QStringLiteral("#FF0080"));
     EXPECT_EQ(m_fakes.defaults.read<qint64>(keys::totalChecksCount), 1);
+    EXPECT_EQ(m_fakes.soundPlayer.played().size(), 1);
 }
 
 TEST_F(AppDelegateMemory, LoadsThePalettesAfterTheStatusItemIsUp) {

@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <set>
 #include <vector>
 
 namespace dropshade {
@@ -34,6 +33,33 @@ const std::vector<DefaultsValue> junk = {
     QStringList{QStringLiteral("1")},
     std::nan(""),
 };
+
+TEST_F(SettingsReaders, HaveTheKeysOfEarlierVersionsAndOtherMachines) {
+    const std::pair<QString, const char*> names[] = {
+        {keys::colorFormat, "colorFormat"},
+        {keys::useHashPrefix, "useHashPrefix"},
+        {keys::useLowercase, "useLowercase"},
+        {keys::decimalPlaces, "decimalPlaces"},
+        {keys::contrastAlgorithm, "contrastAlgorithm"},
+        {keys::swatchSizeIndex, "swatchSizeIndex"},
+        {keys::formerSwatchSize, "swatchSize"},
+        {keys::closePaletteDialogOnCopy, "closePaletteDialogOnCopy"},
+        {keys::closeConvertDialogOnCopy, "closeConvertDialogOnCopy"},
+        {keys::copySound, "copySound"},
+        {keys::appLanguage, "appLanguage"},
+        {keys::showRecentColors, "showRecentColors"},
+        {keys::menuBarIconStyle, "menuBarIconStyle"},
+        {keys::recentColorsLimit, "recentColorsLimit"},
+        {keys::pinnedColors, "pinnedColors"},
+        {keys::recentColors, "recentColors"},
+        {keys::userPalettes, "userPalettes"},
+        {keys::collapsedPaletteIds, "collapsedPaletteIds"},
+        {keys::iCloudSyncEnabled, "iCloudSyncEnabled"},
+        {keys::totalChecksCount, "totalChecksCount"},
+        {keys::didImportLegacyContainerPrefs, "didImportLegacyContainerPrefs"}};
+    for (const auto& [key, name] : names)
+        EXPECT_EQ(key, QLatin1String(name));
+}
 
 TEST_F(SettingsReaders, GiveTheDefaultsWhereNothingIsSet) {
     EXPECT_EQ(colorFormat(m_defaults), ColorFormat::hex);
@@ -185,15 +211,23 @@ TEST(SwatchSize, GrowsByFourPointsFromEighteenToFifty) {
 
 TEST(MenuBarIconStyles, AreThreeInTheOrderOfTheirEnumeration) {
     EXPECT_EQ(menuBarIconStyles[0].displayName, "Default");
+    EXPECT_EQ(menuBarIconStyles[0].rawValue, "picker");
+    EXPECT_EQ(menuBarIconStyles[1].displayName, "Swatch");
+    EXPECT_EQ(menuBarIconStyles[1].rawValue, "swatch");
+    EXPECT_EQ(menuBarIconStyles[2].displayName, "Palette");
+    EXPECT_EQ(menuBarIconStyles[2].rawValue, "palette");
     for (std::size_t index = 0; index < menuBarIconStyles.size(); ++index)
         EXPECT_EQ(menuBarIconStyles.at(index).style, static_cast<MenuBarIconStyle>(index));
 }
 
-TEST(CopySounds, AreNineDifferentNamesWithoutSilence) {
-    const std::set<QLatin1StringView> names(copySounds.begin(), copySounds.end());
-    EXPECT_EQ(names.size(), 9U);
-    EXPECT_FALSE(names.contains(noCopySound));
-    EXPECT_TRUE(names.contains(defaultCopySound));
+TEST(CopySounds, AreNineInTheirOrderWithoutSilence) {
+    QStringList names;
+    for (const QLatin1StringView name : copySounds)
+        names.append(name);
+    EXPECT_EQ(names.join(u' '),
+              QStringLiteral("coin collect drop ding fart plink pop retro whoosh"));
+    EXPECT_EQ(noCopySound, QLatin1StringView("none"));
+    EXPECT_EQ(defaultCopySound, QLatin1StringView("drop"));
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include "support/Palettes.h"
 #include "support/QtPrinters.h"
 #include "support/SignalCount.h"
+#include "widgets/Metrics.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -57,6 +58,17 @@ protected:
     static QMenu* submenu(const QMenu& of, const QString& title) {
         const QAction* action = row(of, title);
         return action ? QMenu::menuInAction(action) : nullptr;
+    }
+
+    static QImage image(const QAction* action) {
+        return action ? action->icon().pixmap(metrics::iconMenu).toImage() : QImage();
+    }
+    /// As menus draw it.
+    [[nodiscard]] QImage drawing(Icon icon) const {
+        const Theme& theme = look.theme();
+        return tintedIcon(icon, theme.textSecondary, theme.textTertiary, metrics::iconMenu)
+            .pixmap(metrics::iconMenu)
+            .toImage();
     }
 
     Palette addPalette(const char* name, std::initializer_list<const char*> values) {
@@ -108,23 +120,59 @@ TEST_F(StatusMenuTest, HasItsRowsInOrderAndKeepsTheSeparatorsWhereThereAreNoColo
     EXPECT_EQ(paletteLoads, 0);
 }
 
-TEST_F(StatusMenuTest, HasAnImageOnEveryRowButThoseForNewPalettes) {
+TEST_F(StatusMenuTest, EachRowHasItsOwnImageAndThoseForNewPalettesNone) {
+    recordRecentColor(machine.defaults(), SRGBColor(1, 0, 0));
+    pin(addPalette("Web", {"#FF0000"}), 0);
     const QMenu* opened = open();
+    const std::pair<const char*, Icon> rows[] = {{"Control-click for quick pick", Icon::Pointer},
+                                                 {"Quick Pick", Icon::MenuBar},
+                                                 {"Color Picker…", Icon::Palette},
+                                                 {"Palettes…", Icon::ColorSwatch},
+                                                 {"Check Contrast…", Icon::Contrast},
+                                                 {"Favorites", Icon::Star},
+                                                 {"Recent Colors", Icon::Clock},
+                                                 {"Settings…", Icon::Settings},
+                                                 {"About…", Icon::Info},
+                                                 {"Check for Updates…", Icon::Refresh},
+                                                 {"Quit", Icon::Quit}};
+    for (const auto& [title, icon] : rows)
+        EXPECT_EQ(image(row(*opened, QString::fromUtf8(title))), drawing(icon)) << title;
+    EXPECT_NE(drawing(Icon::Palette), drawing(Icon::ColorSwatch));
     for (const QAction* action : opened->actions()) {
-        const bool isForNewPalette = action->text().startsWith(QStringLiteral("New Palette"));
-        if (!action->isSeparator()) {
-            EXPECT_EQ(action->icon().isNull(), isForNewPalette) << action->text().toStdString();
+        if (action->text().startsWith(QStringLiteral("New Palette"))) {
+            EXPECT_TRUE(action->icon().isNull()) << action->text().toStdString();
         }
     }
+    const QMenu* recents = submenu(*opened, QStringLiteral("Recent Colors"));
+    EXPECT_EQ(image(recents->actions().last()), drawing(Icon::Eraser));
+}
+
+TEST_F(StatusMenuTest, AColorIsShownOnItsRowTwentyPointsWideWithItsAlpha) {
+    recordRecentColor(machine.defaults(), SRGBColor(1, 0, 0, 0.5));
+    pin(addPalette("Web", {"#0000FF"}), 0);
+    const QMenu* opened = open();
+    const QIcon recent =
+        submenu(*opened, QStringLiteral("Recent Colors"))->actions().first()->icon();
+    EXPECT_EQ(recent.actualSize(QSize(100, 100)), QSize(20, 20));
+    const QColor middle = recent.pixmap(20, 20).toImage().pixelColor(10, 10);
+    EXPECT_NEAR(middle.alphaF(), 0.5, 0.01);
+    EXPECT_GT(middle.redF(), 0.98);
+    const QIcon favorite = submenu(*opened, QStringLiteral("Favorites"))->actions().last()->icon();
+    EXPECT_EQ(favorite.pixmap(20, 20).toImage().pixelColor(10, 10), QColor(Qt::blue));
 }
 
 TEST_F(StatusMenuTest, KeepsItsImagesWhateverTheIconStyle) {
-    const auto image = [](const QMenu* opened) {
-        return opened->actions().at(2)->icon().pixmap(14, 14).toImage();
+    const QStringList tools{QStringLiteral("Quick Pick"), QStringLiteral("Color Picker…"),
+                            QStringLiteral("Palettes…")};
+    const auto images = [&tools](const QMenu* opened) {
+        QList<QImage> all;
+        for (const QString& tool : tools)
+            all.append(image(row(*opened, tool)));
+        return all;
     };
-    const QImage before = image(open());
+    const QList<QImage> before = images(open());
     machine.settings().setMenuBarIconStyle(MenuBarIconStyle::Palette);
-    EXPECT_EQ(image(reopen()), before);
+    EXPECT_EQ(images(reopen()), before);
 }
 
 TEST_F(StatusMenuTest, ShowsAShortcutAtTheNextOpeningAndFollowsItWhileOpen) {
