@@ -77,6 +77,27 @@ protected:
         }
         menu->close();
     }
+    /// What the list of a picker offers, a bar between two rows and a dash for a divider.
+    QString choices(const char* name) {
+        click(find<Picker>(name));
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        EXPECT_NE(menu, nullptr) << name;
+        QStringList all;
+        for (const QAction* action : menu->actions())
+            all.append(action->isSeparator() ? QStringLiteral("-") : action->text());
+        menu->close();
+        return all.join(u'|');
+    }
+    /// The labels in view as they stand, from the top.
+    [[nodiscard]] QStringList wordsFromTop() {
+        QCoreApplication::processEvents();
+        QMap<int, QString> words;
+        for (const auto* label : window().findChildren<QLabel*>()) {
+            if (label->isVisible() && !label->text().isEmpty())
+                words.insert(label->mapTo(&window(), QPoint()).y(), label->text());
+        }
+        return words.values();
+    }
     [[nodiscard]] bool showsWords(const QString& words) {
         const auto labels = window().findChildren<QLabel*>();
         return std::any_of(labels.begin(), labels.end(), [&words](const QLabel* label) {
@@ -98,6 +119,61 @@ TEST_F(SettingsRootViewTest, IsBuiltAtItsFirstShowAndKeptAfterAClose) {
     open();
     EXPECT_EQ(&window(), first);
     EXPECT_TRUE(first->isVisible());
+}
+
+TEST_F(SettingsRootViewTest, TheRowsStandInTheirSectionsInOrder) {
+    const QStringList rows{
+        QStringLiteral("General"),
+        QStringLiteral("Menu bar icon"),
+        QStringLiteral("Recent colors in menu"),
+        QStringLiteral("Copy sound"),
+        QStringLiteral("Start automatically on login"),
+        QStringLiteral("Automatically check for updates"),
+        QStringLiteral("Sync via iCloud"),
+        QStringLiteral("Keep palettes and preferences in sync across your Macs."),
+        QStringLiteral("Format"),
+        QStringLiteral("Format"),
+        QStringLiteral("Colors will be copied to the clipboard in this format"),
+        QStringLiteral("Use lowercase for copied colors"),
+        QStringLiteral("Use # prefix for hex codes"),
+        QStringLiteral("Hotkeys"),
+        QStringLiteral("Quick Pick"),
+        QStringLiteral("Color Picker"),
+        QStringLiteral("Palettes"),
+        QStringLiteral("Check Contrast"),
+        QStringLiteral("Activate from anywhere with the press of a button")};
+    EXPECT_EQ(wordsFromTop(), rows);
+    QStringList ofPrecision = rows;
+    ofPrecision.removeAll(QStringLiteral("Use lowercase for copied colors"));
+    ofPrecision.replace(ofPrecision.indexOf(QStringLiteral("Use # prefix for hex codes")),
+                        QStringLiteral("Decimal precision"));
+    choose(find<Picker>("Format"), QStringLiteral("NSColor RGB"));
+    EXPECT_EQ(wordsFromTop(), ofPrecision);
+}
+
+TEST_F(SettingsRootViewTest, TheChoicesOfARowStandInOrder) {
+    QStringList tiles;
+    for (const auto* tile :
+         window().findChild<MenuBarIconPicker*>()->findChildren<QAbstractButton*>())
+        tiles.append(tile->accessibleName());
+    EXPECT_EQ(tiles.join(u' '), QStringLiteral("Default Swatch Palette"));
+    EXPECT_EQ(
+        choices("Copy sound"),
+        QStringLiteral("None|-|Coin|Collect|Drop (default)|Ding|Fart|Plink|Pop|Retro|Whoosh"));
+    QStringList formats;
+    for (const ColorFormatGroup& group : formatGroups()) {
+        formats.append(QString::fromUtf8(group.title.data(), qsizetype(group.title.size())));
+        for (const ColorFormat format : group.formats) {
+            const std::string_view name = displayName(format);
+            formats.append(QString::fromUtf8(name.data(), qsizetype(name.size())));
+        }
+    }
+    EXPECT_EQ(choices("Format"), formats.join(u'|'));
+    QStringList segments;
+    for (const auto* each :
+         find<SegmentedControl>("Decimal precision")->findChildren<QAbstractButton*>())
+        segments.append(each->text());
+    EXPECT_EQ(segments.join(u' '), QStringLiteral("0.00 0.000 0.0000"));
 }
 
 TEST_F(SettingsRootViewTest, ATileChangesTheIconOfTheStatusItemAtOnce) {
