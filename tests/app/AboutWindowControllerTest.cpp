@@ -45,7 +45,37 @@ TEST_F(AboutWindowControllerTest, SaysWhatTheProgramIsAndWhichVersionRuns) {
     EXPECT_TRUE(shows(QStringLiteral("Version 3.2.1")));
     EXPECT_TRUE(shows(aboutText::description()));
     EXPECT_EQ(controller.window()->windowTitle(), QStringLiteral("About"));
-    EXPECT_GE(controller.window()->width(), 300);
+}
+
+TEST_F(AboutWindowControllerTest, IsAFixedPanelThreeHundredPointsWideWithItsWordsCentredInOrder) {
+    defaults.setValue(keys::totalChecksCount, qint64(12));
+    controller.show();
+    const QWidget& window = *controller.window();
+    EXPECT_EQ(window.minimumSize(), window.maximumSize());
+    EXPECT_EQ(window.width(), 300);
+    QMap<int, QString> words;
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        words.insert(label->mapTo(&window, QPoint()).y(), label->text());
+        EXPECT_TRUE(label->alignment().testFlag(Qt::AlignHCenter)) << label->text().toStdString();
+    }
+    EXPECT_EQ(words.values(),
+              (QStringList{QStringLiteral("Dropshade"),
+                           aboutText::version(QApplication::applicationVersion()),
+                           aboutText::description(), QStringLiteral("You've copied 12 colors.")}));
+    const auto* button = window.findChild<TextButton*>();
+    EXPECT_EQ(button->text(), QStringLiteral("Visit Website"));
+    EXPECT_GT(button->mapTo(&window, QPoint()).y(), words.lastKey());
+}
+
+TEST_F(AboutWindowControllerTest, IsCentredOnTheScreenEachTimeItIsBuilt) {
+    for (int build = 0; build < 2; ++build) {
+        controller.show();
+        const QPoint away = controller.window()->geometry().center() -
+                            controller.window()->screen()->availableGeometry().center();
+        EXPECT_LE(away.manhattanLength(), 8) << "but for its frame";
+        controller.window()->move(3, 4);
+        close();
+    }
 }
 
 TEST_F(AboutWindowControllerTest, AReopenedWindowShowsTheCountOfThatMoment) {
