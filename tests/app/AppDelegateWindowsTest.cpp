@@ -140,6 +140,16 @@ TEST_F(AppDelegateWindows, ThePresetsComeATurnAfterThePalettes) {
     EXPECT_NE(window->findChild<PresetPickerSheet*>(), nullptr);
 }
 
+TEST_F(AppDelegateWindows, AnImportBringsUpThePalettesWhateverComesOfIt) {
+    delegate.importPalette("{", QStringLiteral("json"), std::nullopt);
+    ASSERT_NE(shown(palettes), nullptr);
+    EXPECT_EQ(fakes.alerts.shown().size(), 1);
+    shown(palettes)->close();
+    delegate.importPalette(R"({"name":"Inner","scales":[]})", QStringLiteral("json"), std::nullopt);
+    EXPECT_NE(shown(palettes), nullptr);
+    EXPECT_EQ(delegate.paletteStore().palettes().first().name(), QStringLiteral("Inner"));
+}
+
 TEST_F(AppDelegateWindows, AllFloatAboveOthersAndNoneCanBeMinimised) {
     delegate.openSettings();
     delegate.openAbout();
