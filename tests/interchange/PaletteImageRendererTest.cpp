@@ -102,6 +102,65 @@ TEST(PaletteImageRendererTest, AScaleWithoutSwatchesTakesItsRowAndDrawsItsName) 
     EXPECT_NE(row, white);
 }
 
+/// The darkest and the brightest level in a part of the picture, in its pixels.
+std::pair<int, int> levels(const QImage& image, const QRect& part) {
+    std::pair<int, int> found{255, 0};
+    const QRect inside = part & image.rect();
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x) {
+            const int level = qGray(image.pixel(x, y));
+            found = {std::min(found.first, level), std::max(found.second, level)};
+        }
+    }
+    return found;
+}
+
+TEST(PaletteImageRendererTest, TheTitleIsNearlyBlackAndTheNamesOfScalesAreGrey) {
+    const QImage image = png(makePalette("HHHH", {makeScale("HHHH", {"#fff"})}));
+    const int rowTop = 40 + titleHeight() + 28;
+    EXPECT_NEAR(levels(image, QRect(80, 80, image.width(), 2 * titleHeight())).first, 26, 3);
+    EXPECT_NEAR(levels(image, QRect(80, 2 * rowTop, 50, 2 * 76)).first, 102, 6);
+}
+
+TEST(PaletteImageRendererTest, TheNamesOfScalesEndSixteenPointsBeforeTheSwatches) {
+    const QImage image =
+        png(makePalette("A", {makeScale("IIIIIIIIII", {"#f00"}), makeScale("I", {"#f00"})}));
+    const auto lastInk = [&image](int row) {
+        const int top = 2 * (40 + titleHeight() + 28 + 82 * row);
+        int last = 0;
+        int firstRed = image.width();
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, top + 1) == 0xffff0000U)
+                firstRed = std::min(firstRed, x);
+        }
+        for (int x = 0; x < firstRed; ++x) {
+            if (levels(image, QRect(x, top, 1, 2 * 76)).first < 200)
+                last = x;
+        }
+        return firstRed - last;
+    };
+    EXPECT_NEAR(lastInk(0), 2 * 16, 2 * 2) << "but for the blank beside the letter";
+    EXPECT_EQ(lastInk(0), lastInk(1));
+}
+
+TEST(PaletteImageRendererTest, TheValueOnASwatchIsStrongerThanItsLabel) {
+    const auto text = [](const char* value, const char* label) {
+        const PaletteSwatch swatch(QString::fromLatin1(value),
+                                   label ? std::optional(QString::fromLatin1(label))
+                                         : std::nullopt);
+        const QImage image = png(makePalette("A", {PaletteScale(QString(), {swatch})}));
+        const int top = 2 * (40 + titleHeight() + 28);
+        return std::pair(levels(image, QRect(2 * 60, top + 4, 2 * 100, 2 * 36)),
+                         levels(image, QRect(2 * 60, top + 2 * 42, 2 * 100, 2 * 30)));
+    };
+    const auto [valueOnBlack, labelOnBlack] = text("#000000", "HHHH");
+    EXPECT_NEAR(valueOnBlack.second, 242, 14);
+    EXPECT_NEAR(labelOnBlack.second, 178, 14);
+    const auto [valueOnWhite, labelOnWhite] = text("#ffffff", "HHHH");
+    EXPECT_NEAR(valueOnWhite.first, 38, 14);
+    EXPECT_NEAR(labelOnWhite.first, 115, 14);
+}
+
 TEST(PaletteImageRendererTest, TextOverASwatchContrastsWithIt) {
     const QImage image = png(makePalette("A", {makeScale("", {"#000000", "#ffffff"})}));
     const auto hasPixel = [&image](int left, auto test) {
