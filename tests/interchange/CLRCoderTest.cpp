@@ -144,6 +144,33 @@ TEST(CLRCoder, StoresTheResolvedColorWithItsAlpha) {
     EXPECT_EQ(list.colorWithKey(QStringLiteral("A / y")), SRGBColor());
 }
 
+/// What a palette of these scales is once it has gone out and come back.
+QStringList returned(const QList<PaletteScale>& scales) {
+    return shown(CLRCoder::decode(CLRCoder::encode(makePalette("p", scales)), ReferenceTime{}));
+}
+
+TEST(CLRRoundTrip, LabelsAnUnlabelledSwatchWithItsValue) {
+    EXPECT_EQ(returned({scaleOf("Blue", {{"#00f", "Sky"}, {"#123456", nullptr}})}),
+              QStringList{QStringLiteral("Blue: Sky, #123456")});
+}
+
+TEST(CLRRoundTrip, LeavesTheNumberOfASecondEqualLabelInIt) {
+    EXPECT_EQ(returned({scaleOf("Blue", {{"#00f", "Sky"}, {"#00e", "Sky"}})}),
+              QStringList{QStringLiteral("Blue: Sky, Sky (2)")});
+}
+
+TEST(CLRRoundTrip, KeepsASeparatorInALabelAndMovesTheTailOfAScalesNameIntoIt) {
+    EXPECT_EQ(returned({scaleOf("A", {{"#00f", "B / C"}})}),
+              QStringList{QStringLiteral("A: B / C")});
+    EXPECT_EQ(returned({scaleOf("A / B", {{"#00f", "C"}})}),
+              QStringList{QStringLiteral("A: B / C")});
+}
+
+TEST(CLRRoundTrip, KeepsAnEmptyNameAndLeavesOutAScaleWithoutSwatches) {
+    EXPECT_EQ(returned({scaleOf("", {{"#00f", "x"}}), scaleOf("none", {})}),
+              QStringList{QStringLiteral(": x")});
+}
+
 TEST(CLRBytes, ComeBackWithTheSameKeysAndColors) {
     const std::uint64_t seed = testSeed();
     SCOPED_TRACE(seedTrace(seed));
