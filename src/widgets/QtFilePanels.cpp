@@ -6,7 +6,9 @@
 #include "widgets/Theme.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QPalette>
 #include <QStandardPaths>
 #include <QWindow>
@@ -57,6 +59,9 @@ void showOverFrontWindow(QFileDialog& dialog) {
 QFileDialog& QtFilePanels::makeDialog(const QString& title, Answer answer) {
     if (m_folder.isEmpty())
         m_folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    // Of a folder that is not there the dialog would make the name of a file.
+    if (!QFileInfo(m_folder).isDir())
+        m_folder = QDir::homePath();
     auto* dialog = new QFileDialog(nullptr, title, m_folder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setPalette(

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWindow>
@@ -59,6 +60,20 @@ TEST_F(QtFilePanelsTest, AnOpenPanelOffersItsKindAndEveryOtherFile) {
               QStringList({QStringLiteral("Palettes (*.ase *.ASE *.json *.JSON)"),
                            QStringLiteral("All Files (*)")}));
     EXPECT_EQ(panel()->fileMode(), QFileDialog::ExistingFile);
+    finish(*panel(), QDialog::Rejected);
+}
+
+TEST_F(QtFilePanelsTest, APanelStartsAtHomeWhereThereAreNoDocumentsAndNamesNoFile) {
+    const QByteArray home = qgetenv("HOME");
+    const QByteArray settings = qgetenv("XDG_CONFIG_HOME");
+    qputenv("HOME", m_folder.path().toUtf8());
+    qputenv("XDG_CONFIG_HOME", m_folder.path().toUtf8());
+    m_panels.open(QStringLiteral("Open"), m_kind, answer());
+    qputenv("HOME", home);
+    settings.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", settings);
+    ASSERT_NE(panel(), nullptr);
+    EXPECT_EQ(panel()->directory(), QDir(m_folder.path()));
+    EXPECT_EQ(panel()->findChild<QLineEdit*>()->text(), QString());
     finish(*panel(), QDialog::Rejected);
 }
 
