@@ -166,10 +166,6 @@ class WaylandHand:
         self.press(button)
         self.release(button)
 
-    def double_click(self, x=None, y=None):
-        self.click(x, y)
-        self.click()
-
     def drag(self, start, end, steps=12, pause=0.01):
         """Presses at `start`, goes to `end` in steps that a program can follow, and releases."""
         self.drag_without_release(start, end, steps, pause)
@@ -183,13 +179,13 @@ class WaylandHand:
             time.sleep(pause)
             self.move(*(a + (b - a) * step / steps for a, b in zip(start, end)))
 
-    def scroll(self, steps, horizontally=False):
-        """Clicks of the wheel, down or to the right where positive."""
+    def scroll(self, steps):
+        """Clicks of the wheel, down where positive."""
         step = 1 if steps > 0 else -1
         for _ in range(abs(steps)):
             # As a wheel, with one click each.
             self._connection.send(self._pointer, 5, 0)
-            self._point(7, int(horizontally), SCROLL_STEP * 256 * step, step)
+            self._point(7, 0, SCROLL_STEP * 256 * step, step)
 
     def _point(self, request, *arguments):
         self._connection.send(self._pointer, request, now(), *arguments)

@@ -108,9 +108,9 @@ class WaylandWindows(WaylandCase):
 
     # Palettes
 
-    def stored_values(self, scale):
-        swatches = json.loads(self.setting("userPalettes"))[0]["scales"][scale]["swatches"]
-        return [swatch["value"].lower() for swatch in swatches]
+    def stored_scale(self, index):
+        """A scale of the first palette, of which some are there from the beginning."""
+        return json.loads(self.setting("userPalettes"))[0]["scales"][index]
 
     def swatch_at(self, scale, index):
         return self.at(PALETTES, SWATCH[0] + index * SWATCH_STEP, SWATCH[1] + scale * SCALE_STEP)
@@ -123,9 +123,30 @@ class WaylandWindows(WaylandCase):
     def test_a_swatch_moves_to_another_scale_where_it_is_dropped(self):
         self.open_first_palette()
         self.hand.drag(self.swatch_at(1, 0), self.swatch_at(2, 1), steps=20)
-        wait_until(lambda: self.setting("userPalettes") and len(self.stored_values(2)) == 11,
-                   "the swatch in its new scale")
-        self.assertEqual(len(self.stored_values(1)), 9)
+        wait_until(lambda: len(self.stored_scale(2)["swatches"]) == 11, "the swatch in its new scale")
+        self.assertEqual(len(self.stored_scale(1)["swatches"]), 9)
+
+    def test_a_click_on_the_name_of_a_scale_renames_it(self):
+        self.open_first_palette()
+        x, y = self.swatch_at(1, 0)
+        self.hand.click(x - 90, y)
+        self.desktop.wait_until_still()
+        self.hand.type_text("Ash")
+        self.hand.key("Return")
+        wait_until(lambda: self.stored_scale(1)["name"] == "Ash", "the new name")
+
+    def test_the_wheel_scrolls_the_palettes_and_the_row_under_the_pointer_takes_the_click(self):
+        self.open_first_palette()
+        self.hand.move(*self.swatch_at(4, 5))
+        before = self.desktop.pixel(*self.swatch_at(8, 5))
+        self.hand.scroll(20)
+        self.desktop.wait_until_still()
+        self.assertNotEqual(self.desktop.pixel(*self.swatch_at(8, 5)), before)
+        self.hand.scroll(-20)
+        self.desktop.wait_until_still()
+        self.assertEqual(self.desktop.pixel(*self.swatch_at(8, 5)), before)
+        self.hand.click(*self.swatch_at(2, 5))
+        self.wait_for_clipboard("#FF6B6B")
 
     def test_a_swatch_goes_to_another_window_as_its_text(self):
         self.open(CONVERT)
