@@ -7,9 +7,9 @@
 
 namespace dropshade {
 
-/// The first combination of `keys` as the portal reads it, such as "CTRL+SHIFT+a":
-/// freedesktop.org's "Shortcuts Specification" 0.1, with the names of X's key symbols. Empty for a
-/// key without one.
+/// The first combination of `keys` as the portal reads it, such as "CTRL+SHIFT+a": the triggers of
+/// freedesktop.org's shortcuts, version 0.1, with the names of X's key symbols. Empty for a key
+/// without one.
 [[nodiscard]] QString portalTrigger(const QKeySequence& keys);
 
 } // namespace dropshade
