@@ -8,6 +8,11 @@
 
 namespace dropshade {
 
+void fillWhereOpaque(QPainter& painter, const QWidget& window, const QColor& surface) {
+    if (!window.testAttribute(Qt::WA_TranslucentBackground))
+        painter.fillRect(window.rect(), surface);
+}
+
 void maskWhereOpaque(QWidget& window, double radius) {
     if (window.testAttribute(Qt::WA_TranslucentBackground))
         return;

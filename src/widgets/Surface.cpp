@@ -61,6 +61,7 @@ void Surface::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Theme& theme = m_look.theme();
     const QRectF area = QRectF(rect()).adjusted(m_reach, m_reach, -m_reach, -m_reach);
+    fillWhereOpaque(painter, *this, theme.surfaceRaised);
     if (m_reach > 0) {
         for (const Shadow& shadow : theme.shadowPopup)
             drawShadow(painter, area, metrics::radiusSurface, shadow);

@@ -121,6 +121,7 @@ bool ToolTip::eventFilter(QObject* watched, QEvent* event) {
 void ToolTip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Theme& theme = m_look.theme();
+    fillWhereOpaque(painter, *this, theme.surfacePlate);
     fillRounded(painter, rect(), metrics::radiusControl, theme.surfacePlate);
     strokeEdge(painter, rect(), metrics::radiusControl, theme.linePlate);
     painter.setFont(textFont(TextStyle::Caption));
