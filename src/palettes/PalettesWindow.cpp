@@ -154,14 +154,11 @@ void PalettesWindow::followShortcut() {
     m_emptyState->setShortcut(m_shortcutText());
 }
 
-void PalettesWindow::closeEvent(QCloseEvent* event) {
-    // Escape and the keys that close the window end the sheet first.
-    if (m_sheet && !event->spontaneous()) {
+void PalettesWindow::dismiss() {
+    if (m_sheet)
         m_sheet->closeSheet();
-        event->ignore();
-        return;
-    }
-    FloatingWindow::closeEvent(event);
+    else
+        FloatingWindow::dismiss();
 }
 
 void PalettesWindow::paintEvent(QPaintEvent* event) {

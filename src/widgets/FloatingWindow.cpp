@@ -38,7 +38,7 @@ FloatingWindow::FloatingWindow(const Look& look)
     for (const QKeySequence& keys :
          {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W),
           QKeySequence(Qt::META | Qt::Key_W)})
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, &QWidget::close);
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, &FloatingWindow::dismiss);
     m_frameSettles.setSingleShot(true);
     m_frameSettles.setInterval(frameDelay);
     connect(&m_frameSettles, &QTimer::timeout, this, &FloatingWindow::storeFrame);
@@ -69,6 +69,10 @@ void FloatingWindow::present() {
     show();
     raise();
     activateWindow();
+}
+
+void FloatingWindow::dismiss() {
+    close();
 }
 
 void FloatingWindow::closeEvent(QCloseEvent* event) {

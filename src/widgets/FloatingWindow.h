@@ -34,6 +34,9 @@ protected:
 
     [[nodiscard]] const Look& look() const { return m_look; }
 
+    /// Escape, or the keys that close a window.
+    virtual void dismiss();
+
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

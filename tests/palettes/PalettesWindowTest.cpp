@@ -188,12 +188,23 @@ TEST_F(Window, ThePresetPickerOpensOnRequestAndAdds) {
     EXPECT_EQ(names(), QStringLiteral("Sea Land Mine"));
 }
 
-TEST_F(Window, ClosingTheWindowEndsThePresetPickerFirst) {
+TEST_F(Window, EscapeEndsThePresetPickerBeforeTheWindow) {
     m_controller.requests().requestPresetPicker();
-    window().close();
-    EXPECT_TRUE(window().isVisible());
-    window().close();
+    QApplication::processEvents();
+    PalettesWindow& shownWindow = m_controller.ensureWindow();
+    QTest::keyClick(&shownWindow, Qt::Key_Escape);
+    EXPECT_TRUE(shownWindow.isVisible());
+    QTest::keyClick(&shownWindow, Qt::Key_Escape);
+    EXPECT_FALSE(shownWindow.isVisible());
+}
+
+TEST_F(Window, ClosingTheWindowTakesThePresetPickerAlong) {
+    m_controller.requests().requestPresetPicker();
+    QApplication::processEvents();
+    m_controller.ensureWindow().close();
     EXPECT_FALSE(m_controller.ensureWindow().isVisible());
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(m_controller.ensureWindow().findChild<PresetPickerSheet*>());
 }
 
 TEST_F(Window, EscapeClosesItAndWritesWhatWaits) {
