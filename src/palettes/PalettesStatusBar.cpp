@@ -57,16 +57,12 @@ void PalettesStatusBar::paintSwatch(QPainter& painter, const PaletteSwatch& swat
     const StatusText text = fittingStatusText(swatch, room, measure);
     double x = left;
     if (!text.label.isEmpty()) {
-        painter.setFont(labelFont);
         painter.setPen(m_look.theme().textPrimary);
-        painter.drawText(QRectF(x, 0, room, height()), Qt::AlignVCenter | Qt::TextSingleLine,
-                         text.label);
+        drawWords(painter, labelFont, QRectF(x, 0, room, height()), text.label);
         x += measure.label(text.label) + measure.gap;
     }
-    painter.setFont(valueFont);
     painter.setPen(m_look.theme().textSecondary);
-    painter.drawText(QRectF(x, 0, left + room - x, height()), Qt::AlignVCenter | Qt::TextSingleLine,
-                     text.value);
+    drawWords(painter, valueFont, QRectF(x, 0, left + room - x, height()), text.value);
 }
 
 void PalettesStatusBar::paintEvent(QPaintEvent*) {
@@ -78,12 +74,9 @@ void PalettesStatusBar::paintEvent(QPaintEvent*) {
     const auto& hint = m_hover.hint();
     if (!hint)
         return;
-    const QFont font = textFont(TextStyle::Caption);
-    const double room = width() - 2.0 * m_margin;
-    painter.setFont(font);
     painter.setPen(m_look.theme().textSecondary);
-    painter.drawText(QRectF(m_margin, 0, room, height()), Qt::AlignVCenter | Qt::TextSingleLine,
-                     QFontMetricsF(font).elidedText(*hint, Qt::ElideRight, room));
+    drawWords(painter, textFont(TextStyle::Caption),
+              QRectF(m_margin, 0, width() - 2.0 * m_margin, height()), *hint);
 }
 
 } // namespace dropshade

@@ -4,6 +4,7 @@
 
 #include "widgets/Metrics.h"
 
+#include <QFontMetricsF>
 #include <QPainterPath>
 #include <QPen>
 
@@ -112,6 +113,14 @@ void drawDropZone(QPainter& painter, const QRectF& zone, const Theme& theme, boo
     painter.drawRoundedRect(zone.adjusted(half, half, -half, -half), metrics::radiusSurface - half,
                             metrics::radiusSurface - half);
     painter.restore();
+}
+
+void drawWords(QPainter& painter, const QFont& font, const QRectF& area, const QString& words) {
+    const QFontMetricsF measures(font, painter.device());
+    const double top = area.center().y() - (measures.ascent() + measures.descent()) / 2.0;
+    painter.setFont(font);
+    painter.drawText(QPointF(area.left(), std::round(top + measures.ascent())),
+                     measures.elidedText(words, Qt::ElideRight, area.width()));
 }
 
 void drawShadow(QPainter& painter, const QRectF& area, double radius, const Shadow& shadow) {

@@ -44,6 +44,11 @@ void drawNoColor(QPainter& painter, const QRectF& area, double radius, const The
 void drawDropZone(QPainter& painter, const QRectF& zone, const Theme& theme, bool isTargeted,
                   const QColor& ground);
 
+/// One line of words in that font and the painter's pen, from the left of `area` and in its middle;
+/// what does not fit gives way to an ellipsis. The line is level with others in that font also
+/// where taller fonts lend it signs, such as emoji.
+void drawWords(QPainter& painter, const QFont& font, const QRectF& area, const QString& words);
+
 void drawShadow(QPainter& painter, const QRectF& area, double radius, const Shadow& shadow);
 
 /// What a floating surface needs around itself for its shadow.
