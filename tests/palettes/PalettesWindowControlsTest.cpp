@@ -7,6 +7,7 @@
 #include "palettes/NamePopover.h"
 #include "palettes/PalettesStatusBar.h"
 #include "palettes/PalettesTopBar.h"
+#include "palettes/PresetList.h"
 #include "palettes/PresetPickerSheet.h"
 #include "palettes/SwatchPopover.h"
 #include "support/QtPrinters.h"
@@ -15,6 +16,7 @@
 #include "widgets/Slider.h"
 #include "widgets/TextButton.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -190,9 +192,7 @@ TEST_F(Controls, TheSheetAddsThePresetThatWasClicked) {
     m_controller.requests().requestPresetPicker();
     QApplication::processEvents();
     auto* sheet = window().findChild<PresetPickerSheet*>();
-    auto* presets = sheet->findChild<PresetList*>();
-    const int row = presets->sizeHint().height() / int(m_presets.all().size());
-    QTest::mouseClick(presets, Qt::LeftButton, {}, QPoint(20, row + row / 2));
+    QTest::mouseClick(sheet->findChild<PresetList*>()->rows().at(1), Qt::LeftButton);
     press(sheet, "Add");
     EXPECT_EQ(store().palettes().last().name(), m_presets.all().at(1).name());
 }
