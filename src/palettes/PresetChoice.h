@@ -10,6 +10,10 @@ namespace dropshade {
 /// spread from the first on. A scale without swatches gives none.
 [[nodiscard]] QList<PaletteSwatch> presetChips(const Palette& preset);
 
+/// The swatches that stand for a palette whose scales are hidden: those of a preset, or of one
+/// scale alone at most ten of its own, evenly spread from the first on.
+[[nodiscard]] QList<PaletteSwatch> spineChips(const Palette& palette);
+
 /// The copy that a user adds under the name typed, or under the preset's own where that is blank.
 [[nodiscard]] Palette presetCopy(const Palette& preset, const QString& typedName,
                                  ReferenceTime now);

@@ -18,20 +18,20 @@ namespace dropshade {
 namespace {
 
 constexpr int wellSide = 32;
-/// Behind the label, its gap and the field.
-constexpr int selectorPlace = 3;
+/// Behind the label, and the field between its gaps.
+constexpr int selectorPlace = 4;
 
 } // namespace
 
 SwatchPopover::SwatchPopover(const Look& look, QWidget& anchor, std::unique_ptr<SwatchEdit> edit)
     : Popover(look, anchor), m_edit(std::move(edit)) {
-    auto* column = new QVBoxLayout(content());
-    m_column = column;
-    column->setContentsMargins(metrics::space16, metrics::space16, metrics::space16,
-                               metrics::space16);
-    column->setSpacing(0);
-    addValueRow(*column);
-    column->addSpacing(metrics::space12);
+    content()->setFixedWidth(popoverFieldWidth + 2 * metrics::space16);
+    m_column = new QVBoxLayout(content());
+    m_column->setContentsMargins(0, metrics::space16, 0, metrics::space16);
+    m_column->setSpacing(0);
+    addValueRow(*addPadded());
+    m_column->addSpacing(metrics::space12);
+    QVBoxLayout* column = addPadded();
     addNameRow(*column);
     column->addSpacing(metrics::space16);
     //: Default button of the popover that adds a color
@@ -50,6 +50,15 @@ SwatchPopover::SwatchPopover(const Look& look, QWidget& anchor, std::unique_ptr<
 
 SwatchPopover::~SwatchPopover() = default;
 
+/// The selectors and the well have rings that reach into the padding.
+QVBoxLayout* SwatchPopover::addPadded(int reach) {
+    auto* part = new QVBoxLayout;
+    part->setContentsMargins(metrics::space16 - reach, 0, metrics::space16, 0);
+    part->setSpacing(0);
+    m_column->addLayout(part);
+    return part;
+}
+
 void SwatchPopover::addLabel(QVBoxLayout& column, const QString& words) {
     column.addWidget(
         new Label(look(), TextStyle::FieldLabel, Label::Tone::Secondary, words, content()));
@@ -67,11 +76,14 @@ void SwatchPopover::addValueRow(QVBoxLayout& column) {
     m_value->setText(m_edit->valueText());
     //: Tooltip of the sign in a field whose text is no color
     m_value->setFailure(tr("Couldn't parse this color"));
+    const int reach = (m_well->sizeHint().width() - wellSide) / 2;
     auto* row = new QHBoxLayout;
-    row->setSpacing(metrics::space8);
+    row->setSpacing(metrics::space8 - reach);
     row->addWidget(m_well);
     row->addWidget(m_value);
-    column.addLayout(row);
+    m_column->addSpacing(-reach);
+    addPadded(reach)->addLayout(row);
+    m_column->addSpacing(-reach);
     connect(m_value, &QLineEdit::textEdited, m_edit.get(), &SwatchEdit::typeValue);
     connect(m_edit.get(), &SwatchEdit::colorDidChange, this, &SwatchPopover::followColor);
     connect(m_edit.get(), &SwatchEdit::valueTextDidChange, this,
@@ -90,7 +102,6 @@ void SwatchPopover::addNameRow(QVBoxLayout& column) {
     m_name->setText(m_edit->label());
     //: Placeholder of the field with a color's name
     m_name->setPlaceholderText(tr("e.g. blue-500"));
-    m_name->setFixedWidth(popoverFieldWidth);
     column.addWidget(m_name);
     connect(m_name, &QLineEdit::textEdited, m_edit.get(), &SwatchEdit::typeLabel);
 }
@@ -100,7 +111,7 @@ void SwatchPopover::toggleSelector() {
     if (m_selector) {
         m_selector->setVisible(!m_selector->isVisible());
     } else {
-        m_selector = new SelectorPanel(look(), SelectorPanel::Parts::WithoutAlpha, metrics::space8,
+        m_selector = new SelectorPanel(look(), SelectorPanel::Parts::WithoutAlpha, metrics::space16,
                                        content());
         m_selector->setFixedHeight(m_selector->sizeHint().height() + metrics::space4);
         m_column->insertWidget(selectorPlace, m_selector);

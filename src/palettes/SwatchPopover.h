@@ -28,6 +28,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QVBoxLayout* addPadded(int reach = 0);
     void addValueRow(QVBoxLayout& column);
     void addNameRow(QVBoxLayout& column);
     void addLabel(QVBoxLayout& column, const QString& words);

@@ -50,6 +50,28 @@ TEST(PresetChips, AreNoneWithoutScalesOrSwatches) {
     EXPECT_EQ(chipsOf(holes), QStringLiteral("y"));
 }
 
+QString spineOf(const Palette& palette) {
+    QStringList values;
+    for (const PaletteSwatch& chip : spineChips(palette))
+        values.append(chip.value());
+    return values.join(QLatin1Char(' '));
+}
+
+TEST(SpineChips, AreTheSwatchesThemselvesWhereThereIsOneScale) {
+    EXPECT_EQ(spineOf(makePalette("p", {makeScale("a", {"x", "y", "z"})})),
+              QStringLiteral("x y z"));
+    QList<PaletteSwatch> many;
+    for (int index = 0; index < 24; ++index)
+        many.append(PaletteSwatch(QString::number(index)));
+    const Palette palette = makePalette("p", {PaletteScale(QStringLiteral("a"), many)});
+    EXPECT_EQ(spineOf(palette), QStringLiteral("0 3 6 9 12 15 18 21"));
+}
+
+TEST(SpineChips, AreThoseOfAPresetWhereThereAreMoreScales) {
+    EXPECT_EQ(spineOf(presetOf(3)), QStringLiteral("0 1 2"));
+    EXPECT_TRUE(spineChips(presetOf(0)).isEmpty());
+}
+
 TEST(PresetCopy, HasTheTrimmedNameThatWasTypedOrElseThePresetsOwn) {
     const ReferenceTime now{9.0};
     const Palette preset = presetOf(1);
