@@ -50,6 +50,7 @@ ListPointer::ListPointer(PaletteList& list, ListActions& actions, Scheduler& sch
     list.installEventFilter(this);
     m_scroll.setInterval(scrollStep);
     connect(&m_scroll, &QTimer::timeout, this, &ListPointer::scrollNearEdge);
+    connect(&list, &PaletteList::rowsDidMove, this, &ListPointer::hoverAgain);
     connect(&m_gesture, &DragGesture::changed, this, &ListPointer::dragChanged);
     connect(&m_gesture, &DragGesture::ended, this, [this] { m_list.model().drag().end(); });
     // What is dragged may be deleted by another machine meanwhile.
@@ -77,6 +78,9 @@ bool ListPointer::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonRelease:
         release(*static_cast<QMouseEvent*>(event));
         return true;
+    case QEvent::Enter:
+        hover(static_cast<QEnterEvent*>(event)->position());
+        break;
     case QEvent::Leave:
         leave();
         break;
@@ -101,14 +105,27 @@ bool ListPointer::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void ListPointer::hover(const QPointF& point) {
+    m_pointer = m_list.mapToGlobal(point);
     const ListElement element = m_list.elementAt(point);
     m_list.setHovered(element, point);
     m_list.model().hover().setHint(ListActions::hint(element));
-    m_list.setToolTip(ListActions::toolTip(element));
+    const QString help = ListActions::toolTip(element);
+    m_list.setToolTip(help.isEmpty() ? m_list.elidedNameOf(element) : help);
     m_list.setCursor(cursorOver(element.part));
 }
 
+/// The pointer stands still, and other rows come under it.
+void ListPointer::hoverAgain() {
+    if (m_gesture.isDragging())
+        return;
+    if (m_pointer)
+        hover(m_list.mapFromGlobal(*m_pointer));
+    else
+        leave();
+}
+
 void ListPointer::leave() {
+    m_pointer.reset();
     m_list.setHovered({}, QPointF(-1.0, -1.0));
     m_list.model().hover().setHint(std::nullopt);
 }

@@ -40,6 +40,7 @@ private:
     void release(const QMouseEvent& event);
     void leave();
     void hover(const QPointF& point);
+    void hoverAgain();
     void dragChanged(const DragValue& value);
     void cancel();
     void endGesture();
@@ -53,6 +54,8 @@ private:
     DragGesture m_gesture;
     ListElement m_pressed;
     QPointF m_location;
+    /// Where on the screen the pointer is, while it is over the list.
+    std::optional<QPointF> m_pointer;
     QTimer m_scroll;
     bool m_isDraggingOut = false;
 };

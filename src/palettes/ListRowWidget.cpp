@@ -45,6 +45,10 @@ void ListRowWidget::setLifted(bool isLifted) {
     update();
 }
 
+QString ListRowWidget::elidedNameOf(const ListElement&) const {
+    return {};
+}
+
 bool ListRowWidget::advance(std::chrono::duration<double>) {
     return false;
 }

@@ -44,6 +44,9 @@ public:
     /// From the first to the last, as the arrow keys go.
     [[nodiscard]] virtual QList<ListElement> elements() const = 0;
 
+    /// The element's name where the row has no room for all of it, else nothing.
+    [[nodiscard]] virtual QString elidedNameOf(const ListElement& element) const;
+
     void setMarks(const ListMarks& marks);
     /// The whole row is on its way elsewhere, and this is where it comes from.
     void setLifted(bool isLifted);

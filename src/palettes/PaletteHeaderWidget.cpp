@@ -36,9 +36,12 @@ PaletteHeaderWidget::PaletteHeaderWidget(const Look& look, QWidget* list)
 void PaletteHeaderWidget::display(const Palette& palette, bool isExpanded,
                                   const ListMeasures& measures, Line line) {
     m_line = line;
+    const bool isOther = m_paletteId != palette.id();
+    m_turn.moveTo(isExpanded ? 1.0 : 0.0,
+                  isOther ? std::chrono::milliseconds(0) : look().duration(metrics::disclosure));
     m_paletteId = palette.id();
     m_name = palette.name();
-    m_spine = presetChips(palette);
+    m_spine = spineChips(palette);
     m_isExpanded = isExpanded;
     m_measures = measures;
     update();
@@ -83,13 +86,41 @@ QList<ListElement> PaletteHeaderWidget::elements() const {
     return {element(Part::Header), element(Part::Options)};
 }
 
-void PaletteHeaderWidget::paintSpine(QPainter& painter) const {
-    const QRectF area = spineArea();
-    const double nameEnd = m_measures.isCompact ? compactNameLeft : nameLeft;
+bool PaletteHeaderWidget::hasSpine() const {
     // A narrow window has room for the name alone.
-    if (m_isExpanded || m_spine.isEmpty() || area.left() < nameEnd + metrics::space40)
+    const double name = m_measures.isCompact ? compactNameLeft : nameLeft;
+    return !m_isExpanded && !m_spine.isEmpty() && spineArea().left() >= name + metrics::space40;
+}
+
+QRectF PaletteHeaderWidget::nameArea() const {
+    const double left = m_measures.isCompact ? compactNameLeft : nameLeft;
+    const double right = (hasSpine() ? spineArea().left() : optionsArea().left()) - metrics::space8;
+    return {left, double(lineHeight()), right - left, m_measures.headerHeight()};
+}
+
+QString PaletteHeaderWidget::elidedNameOf(const ListElement& wanted) const {
+    const double room = nameArea().width();
+    const bool fits = QFontMetricsF(textFont(TextStyle::Strong)).horizontalAdvance(m_name) <= room;
+    return wanted == element(Part::Header) && !fits ? m_name : QString();
+}
+
+void PaletteHeaderWidget::paintChevron(QPainter& painter) const {
+    const double left = m_measures.isCompact ? compactChevronLeft : chevronLeft;
+    const QPointF center(left + metrics::icon / 2.0,
+                         lineHeight() + m_measures.headerHeight() / 2.0);
+    const QColor& ink = isHovered(Part::Header) ? theme().textPrimary : theme().textSecondary;
+    const double turn = m_turn.value();
+    if (turn <= 0.0 || turn >= 1.0) {
+        drawIcon(painter, turn > 0.0 ? Icon::ChevronDown : Icon::ChevronRight, ink, center,
+                 metrics::icon);
         return;
-    drawSpine(painter, area, m_spine, theme());
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.translate(center);
+    painter.rotate(90.0 * turn);
+    drawIcon(painter, Icon::ChevronRight, ink, {}, metrics::icon);
+    painter.restore();
 }
 
 void PaletteHeaderWidget::paintOptions(QPainter& painter) const {
@@ -107,28 +138,16 @@ void PaletteHeaderWidget::paintOptions(QPainter& painter) const {
 }
 
 void PaletteHeaderWidget::paint(QPainter& painter, const QRegion&) {
-    const bool isCompact = m_measures.isCompact;
-    const double middle = lineHeight() + m_measures.headerHeight() / 2.0;
     if (lineHeight() > 0)
         painter.fillRect(QRectF(m_measures.margin(), 0.0, width() - 2.0 * m_measures.margin(), 1.0),
                          theme().lineHairline);
-    const double chevron = isCompact ? compactChevronLeft : chevronLeft;
-    drawIcon(painter, m_isExpanded ? Icon::ChevronDown : Icon::ChevronRight,
-             isHovered(Part::Header) ? theme().textPrimary : theme().textSecondary,
-             QPointF(chevron + metrics::icon / 2.0, middle), metrics::icon);
-    paintSpine(painter);
+    paintChevron(painter);
+    if (hasSpine())
+        drawSpine(painter, spineArea(), m_spine, theme());
     paintOptions(painter);
 
-    const QFont font = textFont(TextStyle::Strong);
-    const double left = isCompact ? compactNameLeft : nameLeft;
-    const bool hasSpine =
-        !m_isExpanded && !m_spine.isEmpty() && spineArea().left() >= left + metrics::space40;
-    const double right = (hasSpine ? spineArea().left() : optionsArea().left()) - metrics::space8;
-    painter.setFont(font);
     painter.setPen(theme().textPrimary);
-    painter.drawText(QRectF(left, lineHeight(), right - left, m_measures.headerHeight()),
-                     Qt::AlignVCenter | Qt::TextSingleLine,
-                     QFontMetricsF(font).elidedText(m_name, Qt::ElideRight, right - left));
+    drawWords(painter, textFont(TextStyle::Strong), nameArea(), m_name);
     if (marks().focused == element(Part::Header))
         drawFocusRing(painter, areaOf(marks().focused), metrics::radiusControl, theme());
 }

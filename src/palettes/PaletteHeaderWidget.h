@@ -3,6 +3,7 @@
 #pragma once
 
 #include "palettes/ListRowWidget.h"
+#include "widgets/AnimatedValue.h"
 
 namespace dropshade {
 
@@ -24,6 +25,7 @@ public:
     [[nodiscard]] ListElement elementAt(const QPointF& local) const override;
     [[nodiscard]] QRectF areaOf(const ListElement& element) const override;
     [[nodiscard]] QList<ListElement> elements() const override;
+    [[nodiscard]] QString elidedNameOf(const ListElement& element) const override;
 
 protected:
     void paint(QPainter& painter, const QRegion& region) override;
@@ -32,13 +34,17 @@ private:
     [[nodiscard]] ListElement element(ListElement::Part part) const;
     [[nodiscard]] QRectF optionsArea() const;
     [[nodiscard]] QRectF spineArea() const;
-    void paintSpine(QPainter& painter) const;
+    [[nodiscard]] QRectF nameArea() const;
+    [[nodiscard]] bool hasSpine() const;
+    void paintChevron(QPainter& painter) const;
     void paintOptions(QPainter& painter) const;
 
     QUuid m_paletteId;
     QString m_name;
     QList<PaletteSwatch> m_spine;
     bool m_isExpanded = false;
+    /// Of the chevron, from closed at 0 to open at 1.
+    AnimatedValue m_turn{*this};
     ListMeasures m_measures;
     Line m_line = Line::None;
 };

@@ -23,10 +23,6 @@ namespace {
 
 using Part = ListElement::Part;
 
-constexpr std::chrono::milliseconds frameTime{16};
-/// A program that was held up goes on from where it is.
-constexpr std::chrono::duration<double> longestFrame{0.05};
-
 } // namespace
 
 PaletteList::PaletteList(const Look& look, PalettesModel& model, QScrollArea& scrollArea)
@@ -38,12 +34,12 @@ PaletteList::PaletteList(const Look& look, PalettesModel& model, QScrollArea& sc
     scrollArea.setWidgetResizable(false);
     scrollArea.viewport()->installEventFilter(this);
     m_frames.setTimerType(Qt::PreciseTimer);
-    m_frames.setInterval(frameTime);
+    m_frames.setInterval(listFrameTime);
     connect(&m_frames, &QTimer::timeout, this, &PaletteList::advance);
     const auto springs = [this] { arrange(Change::Springs); };
     const auto jumps = [this] { arrange(Change::Jumps); };
     connect(&model, &PalettesModel::contentDidChange, this, springs);
-    connect(&model, &PalettesModel::expansionDidChange, this, springs);
+    connect(&model, &PalettesModel::expansionDidChange, this, [this] { arrange(Change::Opens); });
     connect(&model, &PalettesModel::favoritesDidChange, this, springs);
     connect(&model, &PalettesModel::compactDidChange, this, jumps);
     connect(&model.settings(), &AppSettings::swatchSizeDidChange, this, jumps);
@@ -81,6 +77,7 @@ bool PaletteList::eventFilter(QObject* watched, QEvent* event) {
 void PaletteList::moveEvent(QMoveEvent* event) {
     QWidget::moveEvent(event);
     syncRows(Change::Jumps, Fill::New);
+    Q_EMIT rowsDidMove();
 }
 
 double PaletteList::shownTop(const ListRow& row) const {
@@ -89,22 +86,27 @@ double PaletteList::shownTop(const ListRow& row) const {
 }
 
 void PaletteList::arrange(Change change) {
-    if (m_look.duration(frameTime).count() == 0 || !isVisible())
+    const bool opensOrCloses = change == Change::Opens;
+    if (m_look.duration(listFrameTime).count() == 0 || !isVisible())
         change = Change::Jumps;
     QHash<Key, double> formerTops;
-    if (change == Change::Springs) {
-        for (const ListRow& row : m_layout.rows())
-            formerTops.insert(keyOf(row), shownTop(row));
-    }
+    for (const ListRow& row : m_layout.rows())
+        formerTops.insert(keyOf(row), shownTop(row));
+    // What scrolls meanwhile must not meet motions of rows that are elsewhere now.
+    const QHash<Key, Motion> running = std::exchange(m_motions, {});
+    const int formerView = view().top();
     m_layout = PaletteListLayout(m_model, measures());
-    followMotions(formerTops, change);
     const QSize room = m_scrollArea.viewport()->size();
     resize(room.width(), std::max(room.height(), int(std::ceil(m_layout.height()))));
+    if (opensOrCloses)
+        keepOpenedHeader(formerTops, formerView);
+    if (change != Change::Jumps)
+        followMotions(formerTops, running, view().top() - formerView, change);
     for (const Key& key : m_widgets.keys()) {
         const auto isKey = [&key](const ListRow& row) { return keyOf(row) == key; };
         const auto& rows = m_layout.rows();
         if (std::none_of(rows.cbegin(), rows.cend(), isKey))
-            delete m_widgets.take(key);
+            removeRow(key);
     }
     syncRows(change, Fill::All);
     if (const auto& item = m_model.drag().dragging()) {
@@ -114,34 +116,34 @@ void PaletteList::arrange(Change change) {
         settleDragImage();
     }
     update();
-    if (change == Change::Springs)
+    if (change != Change::Jumps)
         startMoving();
+    Q_EMIT rowsDidMove();
 }
 
-/// Rows that were elsewhere a moment ago and can be seen on their way start from there.
-void PaletteList::followMotions(const QHash<Key, double>& formerTops, Change change) {
-    QHash<Key, Motion> motions;
-    if (change == Change::Springs) {
-        const QRect seen = view();
-        for (qsizetype index = 0; index < m_layout.rows().size(); ++index) {
-            const ListRow& row = m_layout.rows().at(index);
-            const auto former = formerTops.constFind(keyOf(row));
-            if (former == formerTops.cend() || *former == row.top)
-                continue;
-            const double top = std::min(*former, row.top);
-            const double bottom = std::max(*former, row.top) + row.height;
-            if (bottom < seen.top() || top > seen.bottom())
-                continue;
-            const auto [response, fraction] = metrics::reorder;
-            const auto known = m_motions.constFind(keyOf(row));
-            Motion motion = known == m_motions.cend()
-                                ? Motion{index, SpringMotion(*former, response, fraction)}
-                                : Motion{index, known->top};
-            motion.top.setTarget(row.top);
-            motions.insert(keyOf(row), motion);
-        }
+/// What closes above a palette that opens would take its header away from under the pointer, or out
+/// of view. Its scales show a turn later, and only then there may be room to scroll.
+void PaletteList::keepOpenedHeader(const QHash<Key, double>& formerTops, int formerView) {
+    const auto opened = m_model.lastExpandedId();
+    const auto row = opened ? m_layout.rowOf(*opened) : std::nullopt;
+    if (!row || !m_model.isExpanded(*opened)) {
+        m_openedHeaderAt.reset();
+        return;
     }
-    m_motions = motions;
+    const ListRow& header = m_layout.rows().at(*row);
+    const double former = formerTops.value(keyOf(header), header.top);
+    const double wanted = m_openedHeaderAt.value_or(former - formerView);
+    scrollBy(qRound(header.top - wanted) - view().top());
+    m_openedHeaderAt = wanted;
+    if (m_model.showsScales(*opened))
+        m_openedHeaderAt.reset();
+}
+
+void PaletteList::removeRow(const Key& key) {
+    ListRowWidget* row = m_widgets.take(key);
+    if (row == m_hoveredRow)
+        hoverRow(nullptr, {});
+    delete row;
 }
 
 QSet<qsizetype> PaletteList::wantedRows() const {
@@ -166,7 +168,7 @@ void PaletteList::syncRows(Change change, Fill fill) {
         keys.insert(keyOf(m_layout.rows().at(index)));
     for (const Key& key : m_widgets.keys()) {
         if (!keys.contains(key))
-            delete m_widgets.take(key);
+            removeRow(key);
     }
     QList<qsizetype> inOrder(wanted.cbegin(), wanted.cend());
     std::sort(inOrder.begin(), inOrder.end());
@@ -181,7 +183,7 @@ void PaletteList::syncRows(Change change, Fill fill) {
         placeRow(row, *widget);
         widget->show();
         // What slides down comes out from under what is above it.
-        if (change == Change::Springs)
+        if (change != Change::Jumps)
             widget->raise();
     }
     m_dragImage->raise();
@@ -224,8 +226,8 @@ void PaletteList::fillRow(const ListRow& row, ListRowWidget& widget, Change chan
         if (!scale)
             return;
         scaleRow->display(palette->id(), *scale, m_layout.measures(),
-                          change == Change::Springs ? ScaleRowWidget::Motion::Springs
-                                                    : ScaleRowWidget::Motion::Jumps);
+                          change == Change::Jumps ? ScaleRowWidget::Motion::Jumps
+                                                  : ScaleRowWidget::Motion::Springs);
         scaleRow->setDropTarget(m_model.drag().dropHighlightScaleId() == row.scaleId);
     } else if (auto* add = qobject_cast<AddScaleWidget*>(&widget)) {
         add->display(palette->id(), m_layout.measures());
@@ -297,6 +299,13 @@ QRectF PaletteList::areaOf(const ListElement& element) {
     return area.isEmpty() ? area : area.translated(widget->pos());
 }
 
+QString PaletteList::elidedNameOf(const ListElement& element) const {
+    const auto index = rowOf(element);
+    const ListRowWidget* widget =
+        index ? m_widgets.value(keyOf(m_layout.rows().at(*index))) : nullptr;
+    return widget ? widget->elidedNameOf(element) : QString();
+}
+
 QList<ListElement> PaletteList::elementsOf(qsizetype row) {
     return widgetOf(row)->elements();
 }
@@ -342,7 +351,20 @@ void PaletteList::hoverRow(ScaleRowWidget* row, const QPointF& local) {
         row->pointerMoved(local);
 }
 
+void PaletteList::hold(const ListElement& element) {
+    m_isHeld = false;
+    setHovered(element, areaOf(element).center());
+    m_isHeld = true;
+}
+
+void PaletteList::letGo() {
+    m_isHeld = false;
+    Q_EMIT rowsDidMove();
+}
+
 void PaletteList::setHovered(const ListElement& element, const QPointF& point) {
+    if (m_isHeld)
+        return;
     const auto index = m_layout.rowAt(point.y());
     ListRowWidget* widget =
         index && !element.isNone() ? m_widgets.value(keyOf(m_layout.rows().at(*index))) : nullptr;
@@ -365,131 +387,6 @@ void PaletteList::setFocused(const ListElement& element) {
     m_marks.focused = element;
     applyMarks();
     Q_EMIT focusedDidChange(element);
-}
-
-// Dragging
-
-void PaletteList::refreshDragFrames(const QUuid& paletteId) {
-    PaletteDragController& drag = m_model.drag();
-    drag.setPaletteFrames(m_layout.headerFrames());
-    drag.setScaleFrames(m_layout.scaleFrames());
-    drag.setSwatchFrames(m_layout.swatchFrames(m_model, paletteId));
-}
-
-void PaletteList::draggingChanged() {
-    if (m_model.drag().isDragging()) {
-        m_lifted = m_model.drag().dragging();
-        liftDragImage();
-    } else {
-        settleDragImage();
-    }
-    for (const ListRow& row : m_layout.rows()) {
-        if (ListRowWidget* widget = m_widgets.value(keyOf(row)))
-            widget->setLifted(isLifted(row));
-    }
-    applyMarks();
-    startMoving();
-}
-
-void PaletteList::liftDragImage() {
-    const double ratio = devicePixelRatioF();
-    if (const auto* item = std::get_if<PaletteDragController::SwatchItem>(&*m_lifted)) {
-        const auto swatch = m_model.swatch({item->paletteId, item->scaleId, item->swatchId});
-        if (!swatch)
-            return;
-        const double side = m_layout.measures().swatchSide;
-        // As sharp as it gets when it is lifted.
-        const double drawn = side * metrics::swatchDraggedScale;
-        QPixmap picture((QSizeF(drawn, drawn) * ratio).toSize());
-        picture.setDevicePixelRatio(ratio);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        drawSwatch(painter, QRectF(0.0, 0.0, drawn, drawn), *swatch,
-                   m_model.isFavorite(swatch->id()), m_look.theme());
-        painter.end();
-        m_dragImage->lift(DragImage::Kind::Swatch, picture, QSizeF(side, side));
-        return;
-    }
-    const auto* scale = std::get_if<PaletteDragController::ScaleItem>(&*m_lifted);
-    const auto row = m_layout.rowOf(
-        scale ? scale->scaleId : std::get<PaletteDragController::PaletteItem>(*m_lifted).paletteId);
-    if (!row)
-        return;
-    ListRowWidget* widget = widgetOf(*row);
-    m_dragImage->lift(DragImage::Kind::Row, widget->image(), QSizeF(widget->size()));
-}
-
-void PaletteList::moveDragImage() {
-    if (m_dragImage->isSettling())
-        return;
-    if (const auto floating = m_model.drag().floating(QRectF(rect())))
-        m_dragImage->moveCenter(floating->center);
-}
-
-void PaletteList::settleDragImage() {
-    if (!m_lifted)
-        return;
-    ListElement element{Part::Header, {}, {}, {}};
-    if (const auto* palette = std::get_if<PaletteDragController::PaletteItem>(&*m_lifted)) {
-        element.paletteId = palette->paletteId;
-    } else if (const auto* scale = std::get_if<PaletteDragController::ScaleItem>(&*m_lifted)) {
-        element = {Part::Label, scale->paletteId, scale->scaleId, {}};
-    } else {
-        const auto& swatch = std::get<PaletteDragController::SwatchItem>(*m_lifted);
-        element = {Part::Swatch, swatch.paletteId, swatch.scaleId, swatch.swatchId};
-        // It may be in another scale now.
-        if (const auto holder = m_model.palette(swatch.paletteId)) {
-            for (const PaletteScale& other : holder->scales()) {
-                if (indexOfId(other.swatches(), swatch.swatchId) >= 0)
-                    element.scaleId = other.id();
-            }
-        }
-    }
-    const auto row = rowOf(element);
-    if (!row || m_look.duration(frameTime).count() == 0) {
-        m_dragImage->vanish();
-        m_lifted.reset();
-        return;
-    }
-    const ListRow& place = m_layout.rows().at(*row);
-    const QPointF middle(width() / 2.0, place.top + place.height / 2.0);
-    m_dragImage->settle(element.part == Part::Swatch ? areaOf(element).center() : middle);
-}
-
-// Moving
-
-void PaletteList::startMoving() {
-    if (m_frames.isActive())
-        return;
-    m_sinceFrame.start();
-    m_frames.start();
-}
-
-void PaletteList::advance() {
-    const std::chrono::duration<double> passed =
-        std::min(std::chrono::duration<double>(m_sinceFrame.restart() / 1000.0), longestFrame);
-    bool moves = m_dragImage->advance(passed);
-    if (!m_dragImage->isVisible() && !m_model.drag().isDragging() && m_lifted) {
-        m_lifted.reset();
-        for (ListRowWidget* row : std::as_const(m_widgets))
-            row->setLifted(false);
-    }
-    for (auto motion = m_motions.begin(); motion != m_motions.end();) {
-        motion->top.advance(passed);
-        motion = motion->top.isAtRest() ? m_motions.erase(motion) : std::next(motion);
-    }
-    moves = moves || !m_motions.isEmpty();
-    for (const qsizetype index : wantedRows()) {
-        const ListRow& row = m_layout.rows().at(index);
-        if (ListRowWidget* widget = m_widgets.value(keyOf(row))) {
-            placeRow(row, *widget);
-            moves = widget->advance(passed) || moves;
-        }
-    }
-    if (moves)
-        return;
-    m_frames.stop();
-    syncRows(Change::Jumps, Fill::New);
 }
 
 } // namespace dropshade

@@ -18,6 +18,9 @@
 
 namespace dropshade {
 
+/// Between two pictures of what moves in the list.
+inline constexpr std::chrono::milliseconds listFrameTime{16};
+
 class PaletteHeaderWidget;
 class ScaleRowWidget;
 
@@ -43,12 +46,20 @@ public:
     [[nodiscard]] QList<ListElement> elementsOf(qsizetype row);
     [[nodiscard]] std::optional<qsizetype> rowOf(const ListElement& element) const;
 
+    /// See `ListRowWidget::elidedNameOf`; of rows in view.
+    [[nodiscard]] QString elidedNameOf(const ListElement& element) const;
+
     /// Scrolls as little as it takes to see the element, or so that its end is at the bottom.
     enum class Anchor { Nearest, Bottom };
     void reveal(const ListElement& element, Anchor anchor = Anchor::Nearest);
     void scrollBy(int distance);
     /// What is in view.
     [[nodiscard]] QRect view() const;
+
+    /// The element looks pointed at, whatever the pointer does, until `letGo`: what a menu or a
+    /// popover is about.
+    void hold(const ListElement& element);
+    void letGo();
 
     [[nodiscard]] const ListMarks& marks() const { return m_marks; }
     void setHovered(const ListElement& element, const QPointF& point);
@@ -71,6 +82,8 @@ public:
 
 Q_SIGNALS:
     void focusedDidChange(const dropshade::ListElement& element);
+    /// What is under the pointer may be something else now.
+    void rowsDidMove();
     /// A screen reader presses the element.
     void activationRequested(const dropshade::ListElement& element);
 
@@ -81,7 +94,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    enum class Change { Jumps, Springs };
+    enum class Change { Jumps, Springs, Opens };
 
     struct Key {
         ListRow::Kind kind;
@@ -97,7 +110,8 @@ private:
     /// Which rows get their content: those that come into view, or all that are.
     enum class Fill { New, All };
     void syncRows(Change change, Fill fill);
-    void followMotions(const QHash<Key, double>& formerTops, Change change);
+    void keepOpenedHeader(const QHash<Key, double>& formerTops, int formerView);
+    void removeRow(const Key& key);
     [[nodiscard]] QSet<qsizetype> wantedRows() const;
     [[nodiscard]] ListRowWidget* makeRow(ListRow::Kind kind);
     void fillRow(const ListRow& row, ListRowWidget& widget, Change change);
@@ -124,7 +138,11 @@ private:
         qsizetype row;
         SpringMotion top;
     };
+    void followMotions(const QHash<Key, double>& formerTops, const QHash<Key, Motion>& running,
+                       int scrolled, Change change);
     QHash<Key, Motion> m_motions;
+    /// Where in the view the header of a palette that opens is to stay.
+    std::optional<double> m_openedHeaderAt;
     std::unique_ptr<ListRowWidget> m_unseenRow;
     ListMarks m_marks;
     DragImage* m_dragImage;
@@ -132,6 +150,7 @@ private:
     QTimer m_frames;
     QElapsedTimer m_sinceFrame;
     QPointer<ScaleRowWidget> m_hoveredRow;
+    bool m_isHeld = false;
     std::function<bool(bool next)> m_tabHandler;
 };
 

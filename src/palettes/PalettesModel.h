@@ -76,6 +76,8 @@ public:
     // What is open. Opening one palette closes the others; all those that were open at the start
     // may stay so until then.
 
+    /// The palette that was opened last.
+    [[nodiscard]] const std::optional<QUuid>& lastExpandedId() const { return m_lastExpandedId; }
     [[nodiscard]] bool isExpanded(QUuid paletteId) const;
     /// Follows `isExpanded` a turn of the event loop later when a palette opens, and at once when
     /// it closes.

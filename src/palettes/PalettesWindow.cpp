@@ -207,6 +207,8 @@ void PalettesWindow::openPopover(const ListElement& element,
         return;
     }
     connect(popover, &Popover::closed, anchor, &QObject::deleteLater);
+    connect(popover, &Popover::closed, m_list, &PaletteList::letGo);
+    m_list->hold(element);
     popover->open(Popover::Side::Below);
 }
 
@@ -241,17 +243,19 @@ void PalettesWindow::editSwatch(const SwatchPath& path) {
 }
 
 void PalettesWindow::showMenu(const ListElement& element, const QPoint& at) {
+    QList<MenuRow> rows;
     if (element.part == Part::Swatch)
-        popUp(m_menus.swatchMenu(element.path()), at);
+        rows = m_menus.swatchMenu(element.path());
     else if (!element.scaleId.isNull())
-        popUp(m_menus.scaleMenu(element.paletteId, element.scaleId), at);
+        rows = m_menus.scaleMenu(element.paletteId, element.scaleId);
     else
-        popUp(m_menus.paletteMenu(element.paletteId), at);
-}
-
-void PalettesWindow::popUp(const QList<MenuRow>& rows, const QPoint& at) {
-    if (!rows.isEmpty())
-        makeMenu(look(), rows, this)->popup(at);
+        rows = m_menus.paletteMenu(element.paletteId);
+    if (rows.isEmpty())
+        return;
+    QMenu* menu = makeMenu(look(), rows, this);
+    connect(menu, &QMenu::aboutToHide, m_list, &PaletteList::letGo);
+    m_list->hold(element);
+    menu->popup(at);
 }
 
 void PalettesWindow::popUpAddMenu(const QPoint& upperRight) {

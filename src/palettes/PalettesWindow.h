@@ -76,7 +76,6 @@ private:
     void addSwatch(const QUuid& paletteId, const QUuid& scaleId);
     void editSwatch(const SwatchPath& path);
     void showMenu(const ListElement& element, const QPoint& at);
-    void popUp(const QList<MenuRow>& rows, const QPoint& at);
     void popUpAddMenu(const QPoint& upperRight);
     void ask(const DeleteQuestion& question);
     /// `make` gets the widget that the popover belongs to.

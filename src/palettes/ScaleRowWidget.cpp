@@ -182,6 +182,13 @@ QRectF ScaleRowWidget::areaOf(const ListElement& element) const {
     }
 }
 
+QString ScaleRowWidget::elidedNameOf(const ListElement& element) const {
+    const bool isName = element.part == Part::Label || element.part == Part::Grip;
+    const double room = m_measures.labelArea().width() - pillPadding;
+    const double text = QFontMetricsF(textFont(TextStyle::Body)).horizontalAdvance(m_scale.name());
+    return isName && element.scaleId == m_scale.id() && text > room ? m_scale.name() : QString();
+}
+
 QRectF ScaleRowWidget::repaintAreaOf(const ListElement& element) const {
     const QRectF area = ListRowWidget::repaintAreaOf(element);
     const bool isName = element.part == Part::Label || element.part == Part::Grip;
@@ -214,12 +221,8 @@ void ScaleRowWidget::paintLabel(QPainter& painter) const {
                  metrics::iconMenu);
     }
     const QFont font = textFont(m_isDropTarget ? TextStyle::Strong : TextStyle::Body);
-    const double room = label.width() - pillPadding;
-    painter.setFont(font);
     painter.setPen(m_isDropTarget ? theme().accentBase : theme().textPrimary);
-    painter.drawText(QRectF(label.topLeft(), QSizeF(room, label.height())),
-                     Qt::AlignVCenter | Qt::TextSingleLine,
-                     QFontMetricsF(font).elidedText(m_scale.name(), Qt::ElideRight, room));
+    drawWords(painter, font, label.adjusted(0.0, 0.0, -pillPadding, 0.0), m_scale.name());
     if (!areaOf(marks().focused).isEmpty() && marks().focused.part == Part::Label)
         drawFocusRing(painter, pillArea().adjusted(metrics::focusReach, 0, 0, 0),
                       metrics::radiusControl, theme());

@@ -34,6 +34,7 @@ public:
     [[nodiscard]] ListElement elementAt(const QPointF& local) const override;
     [[nodiscard]] QRectF areaOf(const ListElement& element) const override;
     [[nodiscard]] QList<ListElement> elements() const override;
+    [[nodiscard]] QString elidedNameOf(const ListElement& element) const override;
     bool advance(std::chrono::duration<double> time) override;
 
     const PaletteScale& scale() const { return m_scale; }

@@ -94,5 +94,7 @@ struct Spring {
 inline constexpr Spring liftSwatch{0.22, 0.85};
 inline constexpr Spring liftScaleOrPalette{0.25, 0.82};
 inline constexpr Spring reorder{0.32, 0.78};
+/// Rows around a palette that opens or closes: there after `disclosure`, and never past it.
+inline constexpr Spring disclosureSpring{0.125, 1.0};
 
 } // namespace dropshade::metrics
