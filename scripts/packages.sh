@@ -12,7 +12,7 @@ desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth xdotool python3 py
 test_packages="mold libgtest-dev libgmock-dev libxcb-xtest0-dev python3-dbus python3-gi chromium
     poppler-utils x11-xkb-utils sway swaybg grim xdg-desktop-portal x11-xserver-utils pulseaudio
     pulseaudio-utils clang-format-14 git openssl locales etcd-server desktop-file-utils appstream
-    libglib2.0-bin gnome-keyring"
+    at-spi2-core python3-pyatspi libglib2.0-bin gnome-keyring"
 
 say() { printf '%s\n' "$*"; }
 

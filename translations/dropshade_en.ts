@@ -1540,6 +1540,11 @@ Name of the list for screen readers</extracomment>
         <extracomment>Default button of the sheet with the presets</extracomment>
         <translation>Add</translation>
     </message>
+    <message>
+        <source>New palette from a preset</source>
+        <extracomment>Name of a sheet, for screen readers</extracomment>
+        <translation>New palette from a preset</translation>
+    </message>
 </context>
 <context>
     <name>dropshade::PreviewStrip</name>
@@ -1826,6 +1831,16 @@ Setting</extracomment>
         <source>e.g. blue-500</source>
         <extracomment>Placeholder of the field with a color&apos;s name</extracomment>
         <translation>e.g. blue-500</translation>
+    </message>
+    <message>
+        <source>Add color</source>
+        <extracomment>Name of the popover that adds a color, for screen readers</extracomment>
+        <translation>Add color</translation>
+    </message>
+    <message>
+        <source>Edit color</source>
+        <extracomment>Name of the popover that edits a color, for screen readers</extracomment>
+        <translation>Edit color</translation>
     </message>
 </context>
 <context>

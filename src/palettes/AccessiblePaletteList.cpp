@@ -81,15 +81,15 @@ public:
         const QRect area = isValid() ? m_list->areaOf(m_element).toAlignedRect() : QRect();
         return area.isEmpty() ? area : QRect(m_list->mapToGlobal(area.topLeft()), area.size());
     }
-    QAccessible::Role role() const override {
-        return m_element.part == Part::Header ? QAccessible::TreeItem : QAccessible::Button;
-    }
+    QAccessible::Role role() const override { return QAccessible::Button; }
     QAccessible::State state() const override {
         QAccessible::State state;
         state.invalid = !isValid();
         if (state.invalid)
             return state;
         state.focusable = true;
+        state.invisible = !m_list->isVisible();
+        state.offscreen = !m_list->areaOf(m_element).intersects(QRectF(m_list->view()));
         state.focused = m_list->hasFocus() && m_list->marks().focused == m_element;
         if (m_element.part == Part::Header) {
             state.expandable = true;
@@ -102,10 +102,18 @@ public:
         return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
                                                     : nullptr;
     }
-    QStringList actionNames() const override { return {pressAction()}; }
+    QStringList actionNames() const override {
+        const bool hasMenu = m_element.part == Part::Header || m_element.part == Part::Label ||
+                             m_element.part == Part::Swatch;
+        return hasMenu ? QStringList{pressAction(), showMenuAction()} : QStringList{pressAction()};
+    }
     void doAction(const QString& name) override {
-        if (name == pressAction() && isValid())
+        if (!isValid())
+            return;
+        if (name == pressAction())
             Q_EMIT m_list->activationRequested(m_element);
+        else if (name == showMenuAction())
+            Q_EMIT m_list->menuRequested(m_element);
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 

@@ -16,6 +16,7 @@ namespace dropshade {
 
 NamePopover::NamePopover(const Look& look, QWidget& anchor, std::unique_ptr<NameEdit> edit)
     : Popover(look, anchor), m_edit(std::move(edit)) {
+    setAccessibleName(m_edit->title());
     auto* field = new TextField(look, TextField::Content::Words, content());
     field->setText(m_edit->name());
     field->setAccessibleName(m_edit->title());

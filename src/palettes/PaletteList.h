@@ -86,6 +86,8 @@ Q_SIGNALS:
     void rowsDidMove();
     /// A screen reader presses the element.
     void activationRequested(const dropshade::ListElement& element);
+    /// The same for its menu.
+    void menuRequested(const dropshade::ListElement& element);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -111,7 +111,19 @@ void PalettesWindow::connectList() {
     connect(m_actions, &ListActions::swatchAddRequested, this, &PalettesWindow::addSwatch);
     connect(m_actions, &ListActions::swatchEditRequested, this, &PalettesWindow::editSwatch);
     connect(m_actions, &ListActions::menuRequested, this, &PalettesWindow::showMenu);
-    connect(m_list, &PaletteList::activationRequested, m_actions, &ListActions::activate);
+    const auto openMenu = [this](const ListElement& element) {
+        m_list->reveal(element);
+        const QPointF middle = m_list->areaOf(element).center();
+        m_actions->showMenu(element, m_list->mapToGlobal(middle.toPoint()));
+    };
+    connect(m_list, &PaletteList::menuRequested, this, openMenu);
+    connect(m_list, &PaletteList::activationRequested, this,
+            [this, openMenu](const ListElement& element) {
+                if (element.part == Part::Options)
+                    openMenu(element);
+                else
+                    m_actions->activate(element);
+            });
     connect(m_pointer, &ListPointer::pressed, m_keys, &ListKeys::hideRing);
     connect(m_topBar, &PalettesTopBar::addMenuRequested, this, &PalettesWindow::popUpAddMenu);
     connect(m_emptyState, &PalettesEmptyState::presetRequested, &m_model,

@@ -16,6 +16,8 @@ namespace dropshade {
 PresetPickerSheet::PresetPickerSheet(const Look& look, QWidget& host,
                                      std::unique_ptr<PresetPicker> picker)
     : Sheet(look, host), m_picker(std::move(picker)) {
+    //: Name of a sheet, for screen readers
+    setAccessibleName(tr("New palette from a preset"));
     build(look);
 }
 

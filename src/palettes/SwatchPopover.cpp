@@ -25,6 +25,11 @@ constexpr int selectorPlace = 4;
 
 SwatchPopover::SwatchPopover(const Look& look, QWidget& anchor, std::unique_ptr<SwatchEdit> edit)
     : Popover(look, anchor), m_edit(std::move(edit)) {
+    //: Name of the popover that adds a color, for screen readers
+    const QString adds = tr("Add color");
+    //: Name of the popover that edits a color, for screen readers
+    const QString edits = tr("Edit color");
+    setAccessibleName(m_edit->isNew() ? adds : edits);
     content()->setFixedWidth(popoverFieldWidth + 2 * metrics::space16);
     m_column = new QVBoxLayout(content());
     m_column->setContentsMargins(0, metrics::space16, 0, metrics::space16);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/FloatingWindow.h"
 
+#include "widgets/AccessibleWindows.h"
 #include "widgets/FocusRing.h"
 #include "widgets/WindowFrames.h"
 
@@ -31,6 +32,7 @@ FloatingWindow::FloatingWindow(const Look& look)
     : QWidget(nullptr, Qt::Window | Qt::WindowStaysOnTopHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       m_look(look) {
+    installAccessibleWindows();
     setAttribute(Qt::WA_AlwaysShowToolTips);
     // The paint event fills all of it.
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Sheet.h"
 
+#include "widgets/AccessibleWindows.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
 
@@ -36,6 +37,7 @@ private:
 
 Sheet::Sheet(const Look& look, QWidget& host)
     : QWidget(&host), m_look(look), m_panel(new Panel(look, this)) {
+    installAccessibleWindows();
     setFocusPolicy(Qt::NoFocus);
     m_panel->setContentsMargins(metrics::space20, metrics::space20, metrics::space20,
                                 metrics::space20);

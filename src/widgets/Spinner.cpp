@@ -17,8 +17,7 @@ constexpr std::chrono::milliseconds oneTurn{1000};
 } // namespace
 
 Spinner::Spinner(const Look& look, const QString& name, QWidget* parent)
-    : QWidget(parent), m_look(look) {
-    setAccessibleName(name);
+    : QWidget(parent), m_look(look), m_name(name) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_delay.setSingleShot(true);
     m_delay.setInterval(patience);
@@ -41,11 +40,14 @@ void Spinner::setSpinning(bool spinning) {
     m_delay.stop();
     m_turn.stop();
     m_isShown = false;
+    setAccessibleName({});
     update();
 }
 
 void Spinner::show() {
     m_isShown = true;
+    // It is there for nobody before.
+    setAccessibleName(m_name);
     const auto time = m_look.duration(oneTurn);
     if (time.count() > 0) {
         m_turn.setDuration(static_cast<int>(time.count()));

@@ -30,6 +30,7 @@ private:
     void show();
 
     const Look& m_look;
+    QString m_name;
     QTimer m_delay;
     QVariantAnimation m_turn;
     bool m_isSpinning = false;

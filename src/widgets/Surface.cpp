@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Surface.h"
 
+#include "widgets/AccessibleWindows.h"
 #include "widgets/FocusRing.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
@@ -17,6 +18,7 @@ Surface::Surface(const Look& look, QWidget* parent, Qt::WindowFlags type)
     : QWidget(parent, type | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint), m_look(look),
       m_reach(look.blendsWindows() ? popupShadowReach(look.theme()) : 0),
       m_content(new QWidget(this)) {
+    installAccessibleWindows();
     setAttribute(Qt::WA_TranslucentBackground, look.blendsWindows());
     auto* frame = new QVBoxLayout(this);
     frame->setContentsMargins(m_reach, m_reach, m_reach, m_reach);

@@ -257,6 +257,50 @@ TEST_F(Window, AScreenReaderPressesLikeAClick) {
     EXPECT_EQ(m_commands.copies.size(), 1);
 }
 
+TEST_F(Window, AScreenReaderOpensTheMenuOfWhatHasOne) {
+    QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&list());
+    QAccessibleInterface* color = tree->child(4);
+    EXPECT_EQ(color->actionInterface()->actionNames(),
+              QStringList({QAccessibleActionInterface::pressAction(),
+                           QAccessibleActionInterface::showMenuAction()}));
+    color->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    ASSERT_TRUE(shown<QMenu>());
+    EXPECT_EQ(shown<QMenu>()->actions().first()->text(), QStringLiteral("Edit Color"));
+    EXPECT_TRUE(color->rect().contains(shown<QMenu>()->pos()));
+    shown<QMenu>()->close();
+    QAccessibleInterface* optionsButton = tree->child(1);
+    optionsButton->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    ASSERT_TRUE(shown<QMenu>());
+    EXPECT_TRUE(optionsButton->rect().contains(shown<QMenu>()->pos()));
+    shown<QMenu>()->close();
+}
+
+TEST_F(Window, NothingOfAHiddenListIsThereForScreenReaders) {
+    QAccessibleInterface* tree = QAccessible::queryAccessibleInterface(&list());
+    EXPECT_FALSE(tree->child(0)->state().invisible);
+    window().close();
+    EXPECT_TRUE(tree->child(0)->state().invisible);
+}
+
+TEST_F(Window, ScreenReadersMeetWindowsSheetsAndPopoversAsWhatTheyAre) {
+    const auto roleOf = [](QWidget* widget) {
+        return QAccessible::queryAccessibleInterface(widget)->role();
+    };
+    EXPECT_EQ(roleOf(&window()), QAccessible::Window);
+    click(label(0));
+    EXPECT_EQ(roleOf(shown<NamePopover>()), QAccessible::Dialog);
+    shown<NamePopover>()->close();
+    m_controller.requests().requestPresetPicker();
+    auto* sheet = window().findChild<PresetPickerSheet*>();
+    EXPECT_EQ(roleOf(sheet), QAccessible::Dialog);
+    EXPECT_FALSE(sheet->accessibleName().isEmpty());
+    sheet->closeSheet();
+    openMenu(swatch(0, 1));
+    choose("Delete Color");
+    EXPECT_EQ(roleOf(shown<AlertWindow>()), QAccessible::AlertMessage);
+    press(shown<AlertWindow>(), "Cancel");
+}
+
 // Arrangement
 
 TEST_F(Window, IsNeverSmallerThanItsLeastSize) {
