@@ -76,8 +76,7 @@ void expectFullStops() {
 
 TEST(ContrastTexts, KeepTheFullStopWhereTheCLibraryHasAComma) {
     const GermanCLocale german;
-    if (!german.isSet())
-        GTEST_SKIP() << "no German locale here, and none can be compiled";
+    ASSERT_TRUE(german.isSet()) << "no German locale here, and none can be compiled";
     expectFullStops();
 }
 

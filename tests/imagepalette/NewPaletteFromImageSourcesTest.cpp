@@ -230,8 +230,7 @@ class PromisedFormats : public testing::TestWithParam<Format> {};
 
 TEST_P(PromisedFormats, GiveColors) {
     const QByteArray file = GetParam().make();
-    if (file.isEmpty())
-        GTEST_SKIP() << "no encoder on this system";
+    ASSERT_FALSE(file.isEmpty()) << "no encoder on this system";
     ImagePaletteDesk desk;
     QMimeData content;
     content.setData(QStringLiteral("image/x-anything"), file);

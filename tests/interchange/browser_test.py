@@ -49,10 +49,10 @@ def computed(color):
     return f"rgb({red}, {green}, {blue})" if alpha == 1 else f"rgba({red}, {green}, {blue}, {alpha})"
 
 
-@unittest.skipUnless(CHROMIUM, "chromium is not installed")
 class Browser(unittest.TestCase):
 
     def setUp(self):
+        self.assertTrue(CHROMIUM, "chromium is not installed")
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.folder = pathlib.Path(scratch.name)
