@@ -3,6 +3,7 @@
 """A session nobody sees: folders, a message bus and programs that are private to it and end with it."""
 
 import os
+import pathlib
 import shutil
 import signal
 import subprocess
@@ -54,6 +55,14 @@ class Process:
 
     def wait(self, seconds=WAIT_SECONDS):
         return self._popen.wait(seconds)
+
+    def is_busy(self):
+        """True while it has something to do, though it may still wait for a processor."""
+        try:
+            threads = list(pathlib.Path(f"/proc/{self.pid}/task").glob("*/stat"))
+            return any(thread.read_text().rpartition(")")[2].split()[0] == "R" for thread in threads)
+        except (FileNotFoundError, ProcessLookupError):
+            return False  # It, or one of its threads, has ended meanwhile.
 
     def send(self, number):
         self._popen.send_signal(number)

@@ -57,6 +57,7 @@ class VirtualDesktop(PrivateSession):
         server = Process.__new__(Process)
         server._popen, server.pid = popen, popen.pid
         self._children.append(server)
+        self._server = server
         os.close(writer)
         with os.fdopen(reader) as file:
             number = file.readline().strip()
@@ -136,14 +137,17 @@ class VirtualDesktop(PrivateSession):
         return shown
 
     def wait_until_still(self, still=0.15):
-        """Until nothing on the screen has changed for that many seconds."""
+        """Until nothing on the screen has changed for that many seconds, and nobody was at work."""
         width, height, _ = self._size
+        # The server is at work whenever it is asked; what it has drawn meanwhile shows.
+        others = [child for child in self._children if child is not self._server]
         before, since = self.grab(0, 0, width, height), time.monotonic()
         deadline = time.monotonic() + WAIT_SECONDS
         while time.monotonic() - since < still and time.monotonic() < deadline:
             time.sleep(0.02)
+            busy = any(child.is_busy() for child in others)
             now = self.grab(0, 0, width, height)
-            if now != before:
+            if now != before or busy:
                 before, since = now, time.monotonic()
 
     def pixel(self, x, y):
@@ -183,10 +187,14 @@ class VirtualDesktop(PrivateSession):
 
     def keyboard_is_grabbed(self):
         """True while some program keeps the keyboard to itself."""
+        # To ask is to take it, for a moment in which the server hears nobody else: a program that is
+        # about to take it would fail.
+        self.display.grab_server()
         status = self.root.grab_keyboard(False, X.GrabModeAsync, X.GrabModeAsync, X.CurrentTime)
         if status == X.GrabSuccess:
             self.display.ungrab_keyboard(X.CurrentTime)
-            self.display.sync()
+        self.display.ungrab_server()
+        self.display.sync()
         return status != X.GrabSuccess
 
     def open_menu(self):
@@ -206,10 +214,9 @@ class VirtualDesktop(PrivateSession):
         return menus
 
     def wait_for_menu(self):
-        """An open menu that has the keyboard. To ask the server who has it would be to take it away
-        from a program that is about to, so this gives the program a moment."""
+        """An open menu that has the keyboard."""
         wait_until(self.open_menu, "a menu")
-        time.sleep(0.1)
+        wait_until(self.keyboard_is_grabbed, "the menu's keyboard")
 
     def pause_after_closing_click(self):
         """As long as a program may take a click for the one that closed its menu."""

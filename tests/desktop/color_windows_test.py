@@ -32,12 +32,12 @@ class ConvertWindow(WindowCase):
     def retype(self, text):
         self.desktop.key("Control_L", "a")
         self.type_text(text)
-        self.settle()
+        self.desktop.wait_until_still()
 
     def field_text(self):
         """By the clipboard, as a user would take it."""
         self.click_in(CONVERT, *FIELD)
-        self.settle()
+        self.desktop.wait_until_still()
         self.desktop.key("Control_L", "a")
         return self.copied_by(lambda: self.desktop.key("Control_L", "c"))
 
@@ -69,7 +69,7 @@ class ConvertWindow(WindowCase):
         self.desktop.press()
         for share in (0.5, 0.0, -0.5, 0.5, 1.0, 1.5):
             self.desktop.move(*self.at(CONVERT, x + width * share, y))
-            self.settle()
+            self.desktop.wait_until_still()
         self.desktop.release()
         self.assertEqual(self.copied_by(lambda: self.click_row(0)), "#0040FF")
 
@@ -81,7 +81,7 @@ class ConvertWindow(WindowCase):
         self.desktop.press()
         self.desktop.move(*self.at(CONVERT, 600, 400))
         self.desktop.release()
-        self.settle()
+        self.desktop.wait_until_still()
         self.assertEqual(self.copied_by(lambda: self.click_row(0)), "#FF0000")
 
     def test_a_text_that_is_no_color_is_marked_and_copies_nothing(self):
@@ -89,7 +89,7 @@ class ConvertWindow(WindowCase):
         self.retype("#ff008")
         self.click_row(2)
         self.click_in(CONVERT, *COPY)
-        self.settle()
+        self.desktop.wait_until_still()
         self.assertTrue(self.window(CONVERT))
         self.assertEqual(self.desktop.clipboard_text(), "untouched")
         self.assertEqual(self.checks_made(), 0)
@@ -137,7 +137,7 @@ class ConvertWindow(WindowCase):
         subprocess.run(["xdotool", "windowmove", window, "120", "90"], check=True,
                        env=self.desktop.environment)
         wait_until(lambda: self.area(CONVERT)[:2] != (left, top), "the window to move")
-        self.settle()
+        self.desktop.wait_until_still()
         moved = self.area(CONVERT)
         self.assertNotEqual(moved[:2], (left, top))
         self.desktop.key("Control_L", "w")
@@ -157,10 +157,10 @@ class ContrastWindow(WindowCase):
 
     def retype(self, row, text):
         self.click_in(CONTRAST, 200, row)
-        self.settle()
+        self.desktop.wait_until_still()
         self.desktop.key("Control_L", "a")
         self.type_text(text)
-        self.settle()
+        self.desktop.wait_until_still()
 
     def copied_from(self, row):
         before = self.desktop.clipboard_text()
@@ -185,7 +185,7 @@ class ContrastWindow(WindowCase):
         for _ in range(2):  # Copy As, and past the disabled rows the first fix
             self.desktop.key("Down")
         self.desktop.key("Return")
-        self.settle()
+        self.desktop.wait_until_still()
         # The color itself passes; its text in eight bits is the nearest there is.
         self.assertEqual(self.copied_from(self.FOREGROUND), "#777777")
         self.assertEqual(self.checks_made(), 0)
@@ -194,7 +194,7 @@ class ContrastWindow(WindowCase):
         self.open()
         self.retype(self.FOREGROUND, "#FF0000")
         self.click_in(CONTRAST, 60, 432)
-        self.settle()
+        self.desktop.wait_until_still()
         self.click_in(CONTRAST, 364, 432)
         self.wait_for_no_window(CONTRAST)
         self.open()
@@ -205,7 +205,7 @@ class ContrastWindow(WindowCase):
         self.open()
         self.retype(self.BACKGROUND, "#123456zz")
         self.click_in(CONTRAST, 200, self.FOREGROUND)
-        self.settle()
+        self.desktop.wait_until_still()
         self.assertEqual(self.copied_from(self.BACKGROUND), "#123456")
 
     def test_the_well_changes_the_color_live_and_cancel_takes_it_back(self):
@@ -214,7 +214,7 @@ class ContrastWindow(WindowCase):
         before = self.desktop.pixel(left + 30, top + 300)
         self.click_in(CONTRAST, 32, self.BACKGROUND)
         popover = wait_until(self.desktop.open_menu, "the popover")
-        self.settle()
+        self.desktop.wait_until_still()
         self.assertLessEqual(popover[0] + popover[2], left + 16)
         self.desktop.click(popover[0] + popover[2] - 20, popover[1] + 20)
         wait_until(lambda: self.desktop.pixel(left + 30, top + 300) != before, "another color")
@@ -226,12 +226,12 @@ class ContrastWindow(WindowCase):
         self.open()
         self.click_in(CONTRAST, 32, self.BACKGROUND)
         popover = wait_until(self.desktop.open_menu, "the popover")
-        self.settle()
+        self.desktop.wait_until_still()
         self.desktop.click(popover[0] + popover[2] - 12, popover[1] + 12)
-        self.settle()
+        self.desktop.wait_until_still()
         self.desktop.click(*self.at(CONTRAST, 300, 220))
         wait_until(lambda: not self.desktop.open_menu(), "the popover to close")
-        self.settle()
+        self.desktop.wait_until_still()
         self.assertNotEqual(self.copied_from(self.BACKGROUND), "#FFFFFF")
 
     def test_a_sample_becomes_the_color_of_its_row(self):

@@ -68,7 +68,7 @@ class KeyboardOnly(DropshadeCase):
         for _ in range(8):
             self.desktop.key("Down")
         self.desktop.key("Right")
-        time.sleep(0.1)
+        wait_until(lambda: len(self.desktop.open_menus()) == 2, "the submenu")
         self.save_screenshot("menu-favourites.png")
         self.desktop.key("Return")
         self.assertEqual(self.copied_text().lower(), value.lower())
@@ -78,7 +78,7 @@ class KeyboardOnly(DropshadeCase):
         for _ in range(9):
             self.desktop.key("Down")
         self.desktop.key("Right")
-        time.sleep(0.1)
+        wait_until(lambda: len(self.desktop.open_menus()) == 2, "the submenu")
         self.desktop.key("Return")
         self.assertEqual(self.copied_text(), "#FF0033")
         self.assertEqual(self.copies_counted(), counted)

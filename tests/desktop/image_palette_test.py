@@ -37,7 +37,7 @@ class ImagePalette(PalettesCase):
         self.desktop.wait_for_menu()
         for key in ("Down", "Down", "Return"):
             self.desktop.key(key)
-        self.sheet = wait_until(lambda: self.find_window(TITLE), "the sheet")
+        self.sheet = self.wait_for_window(TITLE)
         self.desktop.wait_until_still()
 
     def in_sheet(self, x, y):
@@ -118,7 +118,7 @@ class ImagePalette(PalettesCase):
 
     def test_a_file_is_browsed_for_by_a_click_in_the_zone(self):
         self.desktop.click(*self.in_sheet(WIDTH // 2, 120))
-        wait_until(lambda: self.find_window("Choose an Image"), "the panel")
+        self.wait_for_window("Choose an Image")
         self.desktop.wait_until_still()
         subprocess.run(["xdotool", "type", "--delay", "5", str(self.harbour)], check=True,
                        env=self.desktop.environment)

@@ -39,7 +39,7 @@ class PaletteFilesCase(PalettesCase):
         self.wait_for_panel("Export Palette")
 
     def wait_for_panel(self, title):
-        wait_until(lambda: self.find_window(title), title)
+        self.wait_for_window(title)
         self.desktop.wait_until_still()
 
     def export(self, extension):
@@ -52,7 +52,7 @@ class PaletteFilesCase(PalettesCase):
         return content
 
     def wait_for_alert(self, title):
-        wait_until(lambda: self.find_window(title), title)
+        self.wait_for_window(title)
         self.desktop.key("Return")
         wait_until(lambda: not self.find_window(title), "the alert to go")
 

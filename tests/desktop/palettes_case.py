@@ -71,8 +71,16 @@ class PalettesCase(DropshadeCase):
              "/org/dropshade/Dropshade", "--method", "org.freedesktop.Application.ActivateAction",
              "palettes", "[]", "{}"],
             env=self.desktop.environment, capture_output=True, check=True, timeout=20)
-        self.window = wait_until(lambda: self.find_window("Palettes"), "the palettes window")
+        self.window = self.wait_for_window("Palettes")
         self.desktop.wait_until_still()
+
+    def wait_for_window(self, title):
+        """The window of that title, once it is shown and has the keyboard."""
+        def find():
+            focus = self.desktop.display.get_input_focus().focus
+            window = self.find_window(title)
+            return window if window and focus == window else None
+        return wait_until(find, f"the window {title}")
 
     def find_window(self, title):
         """The managed window with that title, or None."""

@@ -56,7 +56,7 @@ class SettingsCase(WindowCase):
 
     def record(self, row, *keys):
         self.click_in(SETTINGS, *self.recorder(row))
-        self.settle()
+        self.desktop.wait_until_still()
         self.desktop.key(*keys)
 
     def wait_for_shortcut(self, row, key_code, modifiers):
@@ -72,11 +72,11 @@ class SettingsCase(WindowCase):
 
     def wait_for_alert(self):
         wait_until(lambda: not self.has_keyboard(SETTINGS), "the alert")
-        self.settle()
+        self.desktop.wait_until_still()
 
     def wait_for_no_alert(self):
         wait_until(lambda: self.has_keyboard(SETTINGS), "the alert to go")
-        self.settle()
+        self.desktop.wait_until_still()
 
 
 class Recorder(SettingsCase):
@@ -182,7 +182,7 @@ class Recorder(SettingsCase):
 
     def test_a_click_elsewhere_ends_the_recording(self):
         self.click_in(SETTINGS, *self.recorder(PICK))
-        self.settle()
+        self.desktop.wait_until_still()
         self.click_in(SETTINGS, LEFT, 30)
         self.desktop.key("Control_L", "Alt_L", "p")
         time.sleep(QUIET_SECONDS)
@@ -211,7 +211,7 @@ class Rows(SettingsCase):
         before = self.desktop.pixel(*self.at(SETTINGS, TOGGLES - 12, LOGIN_ROW))
         self.click_in(SETTINGS, TOGGLES, LOGIN_ROW)
         self.desktop.move(*self.at(SETTINGS, 20, 20))
-        self.settle()
+        self.desktop.wait_until_still()
         self.assertEqual(self.desktop.pixel(*self.at(SETTINGS, TOGGLES - 12, LOGIN_ROW)), before)
 
     def test_ninety_nine_recent_colors_are_fifty(self):
@@ -233,7 +233,7 @@ class Rows(SettingsCase):
         before = self.open(SETTINGS)
         self.click_in(SETTINGS, TOGGLES, SYNC_ROW)
         wait_until(lambda: self.area(SETTINGS)[3] > before[3] + 60, "the fields")
-        self.settle()
+        self.desktop.wait_until_still()
         self.click_in(SETTINGS, TOGGLES, SYNC_ROW)
         wait_until(lambda: self.area(SETTINGS)[3] == before[3], "the fields to go")
 
@@ -247,7 +247,7 @@ class Pictures(SettingsCase):
                 self.open(title)
                 wait_until(lambda: self.desktop.pixel(*self.at(title, 4, 4)) == GROUND[scheme],
                            "the scheme")
-                self.settle()
+                self.desktop.wait_until_still()
                 self.save_window(title, f"{name}-{scheme}-{suffix}.png")
                 self.desktop.key("Escape")
                 self.wait_for_no_window(title)

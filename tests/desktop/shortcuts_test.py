@@ -50,6 +50,7 @@ class ShortcutCase(DropshadeCase):
         counted = self.copies_counted()
         self.desktop.click(345, 456)
         self.assertEqual(self.copied_text(), hex_text(color))
+        wait_until(lambda: self.copies_counted() > counted, "the copy to be counted")
         time.sleep(QUIET_SECONDS)
         self.assertEqual(self.loupe_windows(), 0)
         self.assertEqual(self.copies_counted(), counted + 1)
@@ -94,7 +95,6 @@ class Shortcuts(ShortcutCase):
             self.desktop.key("Down")
         self.desktop.key("Right")
         wait_until(lambda: len(self.desktop.open_menus()) == 2, "the submenu")
-        time.sleep(0.1)
         self.desktop.key(*KEYS)
         self.assert_picks_once()
 
@@ -124,7 +124,7 @@ class Shortcuts(ShortcutCase):
     def use_layout(self, layout):
         subprocess.run(["setxkbmap", layout], env=self.desktop.environment, check=True)
         # The news comes to every program on its own.
-        time.sleep(0.2)
+        self.desktop.wait_until_still()
         self.desktop.display.sync()
 
     def press_by_code(self, code):

@@ -4,7 +4,6 @@
 
 import pathlib
 import subprocess
-import time
 
 from dropshade_case import DropshadeCase, wait_until
 
@@ -94,21 +93,11 @@ class WindowCase(DropshadeCase):
 
     def wait_for_window(self, title):
         wait_until(lambda: self.has_keyboard(title), f"the window {title}")
-        self.settle()
+        self.desktop.wait_until_still()
         return self.area(title)
 
     def wait_for_no_window(self, title):
         wait_until(lambda: not self.window(title), f"{title} to close")
-
-    def settle(self):
-        """Lets the program draw what it was told last: until two looks in a row agree."""
-        before = None
-        for _ in range(200):
-            now = self.desktop.grab(0, 0, self.WIDTH, self.HEIGHT)
-            if now == before:
-                return
-            before = now
-            time.sleep(0.05)
 
     def at(self, title, x, y):
         """The place on the screen of a place in the window, in logical pixels."""
