@@ -70,8 +70,8 @@ TEST_F(SharedFolderProcess, AKillLosesNothingThatWasSynchronized) {
     FolderMember here(path("shared"), path("here.sqlite"));
     for (int round = 0; round < 4; ++round) {
         WriterProcess writer(REPLICA_WRITER, m_base.path(), prefix, 100'000);
-        // Long enough to start, which takes some 30 ms, and then any moment.
-        watch(writer, 60 + int(random() % 150));
+        ASSERT_TRUE(writer.collectFirst());
+        watch(writer, int(random() % 150));
         writer.kill();
         written = std::max(written, writer.storedCount());
     }

@@ -9,6 +9,7 @@
 
 #include <iostream>
 #include <random>
+#include <thread>
 
 namespace dropshade {
 namespace {
@@ -23,6 +24,14 @@ protected:
 
     [[nodiscard]] WriterProcess writer(const QString& prefix, int count) const {
         return WriterProcess(DEFAULTS_WRITER, m_folder.path(), prefix, count);
+    }
+    /// True as soon as a writer has made the file.
+    [[nodiscard]] bool waitForFile() const {
+        const auto end = std::chrono::steady_clock::now() + seconds(30);
+        while (!QFile::exists(m_folder.path()) && std::chrono::steady_clock::now() < end) {
+            std::this_thread::sleep_for(microseconds(100));
+        }
+        return QFile::exists(m_folder.path());
     }
     /// How many of the first `count` keys do not hold what was written.
     [[nodiscard]] static int lostCount(const UserDefaults& store, const QString& prefix,
@@ -96,20 +105,22 @@ TEST_F(SqliteDefaultsProcess, LosesNoReportedWriteWhenKilledAtAnyMoment) {
     int reported = 0;
     for (int round = 0; round < 200; ++round) {
         // Every tenth starts without a file, so that some die while they make it.
-        if (round % 10 == 0) {
+        const bool makesFile = round % 10 == 0;
+        if (makesFile) {
             QFile::remove(m_folder.path());
         }
         const QString prefix = QStringLiteral("%1-").arg(round);
         auto process = writer(prefix, 1000000);
-        const int longest = round % 10 == 0 ? 20000 : 60000;
-        process.collect(microseconds(std::uniform_int_distribution(1000, longest)(random)));
+        // Counted from its first deed: a busy machine may be longer about its start.
+        ASSERT_TRUE(makesFile ? waitForFile() : process.collectFirst()) << "round " << round;
+        process.collect(microseconds(std::uniform_int_distribution(0, 20000)(random)));
         process.kill();
         const SqliteDefaults store(m_folder.path());
         ASSERT_EQ(lostCount(store, prefix, process.storedCount()), 0) << "round " << round;
         ASSERT_EQ(process.refusedCount(), 0) << "round " << round;
         reported += process.storedCount();
     }
-    EXPECT_GT(reported, 200);
+    EXPECT_GE(reported, 180);
     EXPECT_TRUE(m_folder.setAside().isEmpty());
     std::cout << "seed " << seed << ", " << reported << " reported writes\n";
 }

@@ -70,6 +70,16 @@ public:
         }
     }
 
+    /// Collects reports until the process has stored something. False if it ends without, or takes
+    /// longer than any machine should.
+    [[nodiscard]] bool collectFirst() {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        while (storedCount() == 0 && !m_isAtEnd && std::chrono::steady_clock::now() < end) {
+            collect(std::chrono::microseconds(200));
+        }
+        return storedCount() > 0;
+    }
+
     /// Kills the process without warning, and collects what it had reported until then.
     void kill() {
         if (m_process > 0) {
