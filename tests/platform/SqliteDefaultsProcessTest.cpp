@@ -93,8 +93,10 @@ TEST_F(SqliteDefaultsTwoProcesses, LoseNothing) {
     refusedCountOfTwo(300);
 }
 
-TEST_F(SqliteDefaultsTwoProcessesInMemory, LoseNothingAndAreNeverRefused) {
-    EXPECT_EQ(refusedCountOfTwo(2000), 0);
+// A refusal would take a processor that is busy for a fifth of a second, and then not twice in a
+// row.
+TEST_F(SqliteDefaultsTwoProcessesInMemory, LoseNothingAndHardlyKeepOneAnotherWaiting) {
+    EXPECT_LT(refusedCountOfTwo(2000), 40);
 }
 
 TEST_F(SqliteDefaultsProcess, LosesNoReportedWriteWhenKilledAtAnyMoment) {

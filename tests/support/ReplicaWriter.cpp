@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // ReplicaWriter BASE PREFIX COUNT: writes COUNT keys into the replica in the folder BASE, which
-// meets others in BASE/shared, and reports each with a + once it has been synchronized.
+// meets others in BASE/shared, and reports each with a + once it has been synchronized. Ends when
+// all of them have gone out.
 
 #include "platform/linux/FolderTransport.h"
 #include "platform/linux/QtScheduler.h"
@@ -11,6 +12,8 @@
 #include "support/WriterProcess.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QThread>
 
 #include <cstdio>
 
@@ -34,6 +37,13 @@ int main(int argc, char** argv) {
         std::putchar('+');
         std::fflush(stdout);
         QCoreApplication::processEvents();
+    }
+    // To close doesn't wait for the folder: what has not gone out goes when the replica is next
+    // opened.
+    const QDeadlineTimer patience(20'000);
+    while (store.hasUnsent() && !patience.hasExpired()) {
+        QCoreApplication::processEvents();
+        QThread::msleep(1);
     }
     store.close();
     return 0;
