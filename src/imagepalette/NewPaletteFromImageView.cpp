@@ -32,6 +32,17 @@ namespace {
 constexpr QSize leastSize(440, 560);
 constexpr QSize usualSize(460, 600);
 constexpr int labelColumn = 88;
+const QString labelName = QStringLiteral("rowLabel");
+
+/// One column of labels in all rows, as wide as the longest of them needs.
+void alignLabels(const QWidget& window) {
+    const QList<Label*> labels = window.findChildren<Label*>(labelName);
+    int widest = labelColumn;
+    for (const Label* label : labels)
+        widest = std::max(widest, label->sizeHint().width() + metrics::space8);
+    for (Label* label : labels)
+        label->setMinimumWidth(widest);
+}
 constexpr int countColumn = 32;
 /// The slider's widget is wider than its track by what its thumb needs.
 constexpr int sliderOverhang = 4;
@@ -56,6 +67,7 @@ NewPaletteFromImageView::NewPaletteFromImageView(const Look& look, const Surroun
     addPreview(*column);
     addName(*column);
     addFooter(*column);
+    alignLabels(*this);
     addKeys();
     follow();
 }
@@ -64,6 +76,7 @@ NewPaletteFromImageView::~NewPaletteFromImageView() = default;
 
 Label* NewPaletteFromImageView::makeLabel(const QString& words) {
     auto* label = new Label(look(), TextStyle::Body, Label::Tone::Secondary, words, this);
+    label->setObjectName(labelName);
     label->setMinimumSize(labelColumn, metrics::control);
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return label;

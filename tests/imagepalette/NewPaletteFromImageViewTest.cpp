@@ -12,6 +12,7 @@
 #include "support/Machine.h"
 #include "support/ManualBackgroundQueue.h"
 #include "support/QtPrinters.h"
+#include "widgets/Picker.h"
 #include "widgets/Slider.h"
 #include "widgets/TextField.h"
 
@@ -19,6 +20,7 @@
 #include <QLabel>
 #include <QMimeData>
 #include <QTest>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -87,6 +89,30 @@ protected:
          {m_machine.scheduler(), m_queue, m_pasteboard},
          [this](const SRGBColor& color) { m_copied.append(color); }}};
 };
+
+/// A language of twice as many letters.
+class LongWords : public QTranslator {
+public:
+    LongWords() { QCoreApplication::installTranslator(this); }
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char*, const char* text, const char*,
+                                    int) const override {
+        return QString::fromUtf8(text).repeated(2);
+    }
+};
+
+TEST_F(NewPaletteFromImageSheet, LongLabelsPushAllControlsToOneEdge) {
+    const LongWords words;
+    present();
+    auto* order = named<Picker>(QStringLiteral("Sort by").repeated(2));
+    auto* name = named<TextField>(QStringLiteral("Name").repeated(2));
+    auto* label = named<QLabel>(QStringLiteral("Algorithm").repeated(2));
+    ASSERT_TRUE(order && name && label);
+    QApplication::processEvents();
+    const auto leftOf = [this](const QWidget* part) { return part->mapTo(&sheet(), QPoint()).x(); };
+    EXPECT_EQ(leftOf(name), leftOf(order));
+    EXPECT_GE(leftOf(order), leftOf(label) + label->sizeHint().width() + 8);
+}
 
 TEST_F(NewPaletteFromImageSheet, IsOfItsSizeAndNoSmallerThanItsLeast) {
     present();
