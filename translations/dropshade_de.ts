@@ -1409,7 +1409,7 @@ Kein Konto. Kein Abo. Keine Telemetrie.</translation>
     <message>
         <source>Create palette from preset…</source>
         <extracomment>Button in the palettes window without palettes</extracomment>
-        <translation>Palette aus Vorlage erstellen …</translation>
+        <translation>Palette aus Vorlage erstellen …</translation>
     </message>
     <message>
         <source>Create palette from scratch</source>

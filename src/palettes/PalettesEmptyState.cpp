@@ -7,6 +7,7 @@
 #include "widgets/Metrics.h"
 #include "widgets/TextButton.h"
 
+#include <QFontMetrics>
 #include <QVBoxLayout>
 
 namespace dropshade {
@@ -34,6 +35,14 @@ protected:
 private:
     const Look& m_look;
 };
+
+/// Words that are too long for one line break rather than being cut short.
+int heightInLines(const QAbstractButton& button, int width) {
+    const QRect room(0, 0, width - 2 * metrics::controlPadding, QWIDGETSIZE_MAX);
+    const int flags = Qt::AlignCenter | Qt::TextWordWrap;
+    return QFontMetrics(button.font()).boundingRect(room, flags, button.text()).height() +
+           metrics::space12;
+}
 
 Label* centered(Label* label) {
     label->setAlignment(Qt::AlignCenter);
@@ -85,9 +94,12 @@ void PalettesEmptyState::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     const int side = std::max(metrics::compactMargin, (width() - textWidth) / 2);
     m_column->setContentsMargins(side, metrics::space8, side, metrics::space8);
-    for (QWidget* button : m_buttons)
-        button->setFixedWidth(std::min(std::max(buttonWidth, button->sizeHint().width()),
-                                       width() - 2 * metrics::compactMargin));
+    const int room = width() - 2 * metrics::compactMargin;
+    for (QAbstractButton* button : m_buttons) {
+        const QSize natural = button->sizeHint();
+        button->setFixedSize(std::min(std::max(buttonWidth, natural.width()), room),
+                             std::max(natural.height(), heightInLines(*button, room)));
+    }
     m_art->setVisible(height() >= heightForArt);
     m_hint->setVisible(height() >= heightForHint);
 }

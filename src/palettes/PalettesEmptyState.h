@@ -9,6 +9,7 @@
 
 #include <optional>
 
+class QAbstractButton;
 class QVBoxLayout;
 
 namespace dropshade {
@@ -35,7 +36,7 @@ protected:
 private:
     QVBoxLayout* m_column;
     QWidget* m_art;
-    QList<QWidget*> m_buttons;
+    QList<QAbstractButton*> m_buttons;
     Label* m_hint;
 };
 

@@ -90,7 +90,16 @@ void TextButton::paint(QPainter& painter) {
     paintSurface(painter);
     const QFontMetrics fontMetrics(font());
     const int icon = m_icon ? metrics::icon + iconGap : 0;
-    const int words = std::min(fontMetrics.horizontalAdvance(text()), width() - icon);
+    const int natural = fontMetrics.horizontalAdvance(text());
+    const int room = width() - icon - 2 * padding();
+    if (!m_icon && natural > room && height() >= 2 * fontMetrics.height()) {
+        painter.setFont(font());
+        painter.setPen(ink());
+        painter.drawText(rect().adjusted(quietPadding, 0, -quietPadding, 0),
+                         Qt::AlignCenter | Qt::TextWordWrap, text());
+        return;
+    }
+    const int words = std::min(natural, std::max(room, 0));
     int left = (width() - words - icon) / 2;
     if (m_icon) {
         const bool isQuiet = m_kind == Kind::Quiet && isEnabled();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ColorSelector/SelectorPanel.h"
 #include "PalettesWindowFixture.h"
+#include "palettes/PalettesEmptyState.h"
 #include "palettes/PalettesStatusBar.h"
 #include "palettes/PresetList.h"
 #include "palettes/SwatchPopover.h"
@@ -138,6 +139,21 @@ TEST_F(Window, ThePopoverOfAColorLinesUpAndKeepsItsWidthWhenTheSelectorsOpen) {
     EXPECT_EQ(leftOf(square) + square->reach(), leftOf(fields.last()));
     EXPECT_EQ(square->width() - 2 * square->reach(), fields.last()->width());
     popover->close();
+}
+
+TEST_F(Window, TheButtonsOfANarrowWindowWithoutPalettesHaveTwoLines) {
+    store().setPalettes({});
+    QApplication::processEvents();
+    const auto buttons = window().findChild<PalettesEmptyState*>()->findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 2);
+    const int usual = buttons.first()->height();
+    window().resize(160, 560);
+    QApplication::processEvents();
+    for (const QPushButton* button : buttons) {
+        EXPECT_LE(button->width(), 160);
+        EXPECT_GT(button->height(), usual);
+        EXPECT_GE(button->height(), 2 * QFontMetrics(button->font()).height());
+    }
 }
 
 TEST_F(Window, EveryPresetCanBeScrolledToAndChosen) {
