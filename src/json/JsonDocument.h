@@ -9,6 +9,7 @@
 
 #include <optional>
 #include <type_traits>
+#include <utility>
 
 namespace dropshade {
 
@@ -66,6 +67,12 @@ template <typename Value>
     if (!value)
         throw JsonError("a key is missing");
     return *value;
+}
+template <typename Value>
+[[nodiscard]] Value required(std::optional<Value>&& value) {
+    if (!value)
+        throw JsonError("a key is missing");
+    return *std::move(value);
 }
 
 } // namespace dropshade

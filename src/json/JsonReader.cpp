@@ -4,8 +4,11 @@
 
 #include "json/UuidText.h"
 
+#include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <locale>
 #include <sstream>
 #include <string>
@@ -29,6 +32,48 @@ bool isPlain(char byte) {
     return byte != '"' && byte != '\\' && static_cast<unsigned char>(byte) >= 0x20;
 }
 
+/// The first of the bytes from `at` to `end` that doesn't stand for itself, or `end`.
+const char* plainEnd(const char* at, const char* end) {
+    // Eight bytes at a time: the top bit of each that is below 0x20, a quote or a backslash is set,
+    // and perhaps those of higher bytes.
+    constexpr std::uint64_t ones = 0x0101010101010101;
+    for (; end - at >= 8; at += 8) {
+        std::uint64_t bytes = 0;
+        std::memcpy(&bytes, at, sizeof bytes);
+        const std::uint64_t quotes = bytes ^ ('"' * ones);
+        const std::uint64_t backslashes = bytes ^ ('\\' * ones);
+        const std::uint64_t found =
+            (((bytes - 0x20 * ones) & ~bytes) | ((quotes - ones) & ~quotes) |
+             ((backslashes - ones) & ~backslashes)) &
+            (0x80 * ones);
+        if (found == 0)
+            continue;
+        if constexpr (std::endian::native == std::endian::little)
+            return at + std::countr_zero(found) / 8;
+        break;
+    }
+    while (at != end && isPlain(*at))
+        ++at;
+    return at;
+}
+
+/// What UTF-8 bytes say that don't begin with a mark of the byte order.
+QString textOf(std::string_view bytes) {
+    // Most texts are short and of ASCII: a loop of a few steps is done before Qt has begun.
+    constexpr std::size_t shortLength = 32;
+    const auto size = static_cast<qsizetype>(bytes.size());
+    if (bytes.empty() || bytes.size() > shortLength)
+        return QString::fromUtf8(bytes.data(), size);
+    QString text(size, Qt::Uninitialized);
+    QChar* to = text.data();
+    unsigned allBits = 0;
+    for (const char byte : bytes) {
+        allBits |= static_cast<unsigned char>(byte);
+        *to++ = QLatin1Char(byte);
+    }
+    return allBits < 0x80 ? text : QString::fromUtf8(bytes.data(), size);
+}
+
 bool isHighSurrogate(char32_t unit) {
     return unit >= 0xD800 && unit < 0xDC00;
 }
@@ -44,7 +89,7 @@ void appendUtf8(QByteArray& bytes, char32_t character) {
 } // namespace
 
 JsonReader::JsonReader(const QByteArray& text)
-    : m_owner(text), m_text(m_owner.constData(), std::size_t(m_owner.size())) {
+    : m_owner(text), m_at(m_owner.constData()), m_end(m_at + m_owner.size()) {
     if (!m_owner.isValidUtf8())
         throw JsonError("not UTF-8");
 }
@@ -54,6 +99,8 @@ QString JsonReader::string() {
     std::string_view bytes = stringBytes(unescaped);
     // Qt takes a mark in front for one of the byte order; in here it is a character of the text.
     constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (bytes.substr(0, mark.size()) != mark)
+        return textOf(bytes);
     QString marks;
     for (; bytes.substr(0, mark.size()) == mark; bytes.remove_prefix(mark.size()))
         marks += QChar(QChar::ByteOrderMark);
@@ -61,6 +108,14 @@ QString JsonReader::string() {
 }
 
 QUuid JsonReader::uuid() {
+    // Digits and hyphens need no look at what a string may hold besides.
+    constexpr std::size_t quotedLength = uuidTextLength + 2;
+    if (peek() == '"' && rest().size() >= quotedLength && m_at[quotedLength - 1] == '"') {
+        if (const auto id = uuidFromText({m_at + 1, uuidTextLength})) {
+            m_at += quotedLength;
+            return *id;
+        }
+    }
     QByteArray unescaped;
     const auto id = uuidFromText(stringBytes(unescaped));
     if (!id)
@@ -114,7 +169,7 @@ void JsonReader::skip() {
 
 void JsonReader::end() {
     skipWhiteSpace();
-    if (m_at != m_text.size())
+    if (m_at != m_end)
         throw JsonError("more than one value");
 }
 
@@ -124,37 +179,13 @@ void JsonReader::enter(char bracket) {
         throw JsonError("nested too deep");
 }
 
-bool JsonReader::nextItem(char bracket, bool isFirst) {
-    if (peek() == bracket) {
-        ++m_at;
-        --m_depth;
-        return false;
-    }
-    if (!isFirst)
-        expect(',');
-    return true;
-}
-
 void JsonReader::skipWhiteSpace() {
-    while (m_at < m_text.size() && isWhiteSpace(m_text[m_at]))
+    while (m_at != m_end && isWhiteSpace(*m_at))
         ++m_at;
-}
-
-char JsonReader::peek() {
-    skipWhiteSpace();
-    if (m_at == m_text.size())
-        throw JsonError("the text ends too soon");
-    return m_text[m_at];
-}
-
-void JsonReader::expect(char character) {
-    if (peek() != character)
-        throw JsonError("another character expected");
-    ++m_at;
 }
 
 bool JsonReader::takeWord(std::string_view word) {
-    if (m_text.substr(m_at, word.size()) != word)
+    if (!rest().starts_with(word))
         throw JsonError("an unknown word");
     m_at += word.size();
     return true;
@@ -162,24 +193,19 @@ bool JsonReader::takeWord(std::string_view word) {
 
 std::string_view JsonReader::stringBytes(QByteArray& unescaped) {
     expect('"');
-    const std::size_t begin = m_at;
-    std::size_t end = begin;
-    while (end < m_text.size() && isPlain(m_text[end]))
-        ++end;
-    m_at = end;
-    if (end < m_text.size() && m_text[end] == '"') {
-        ++m_at;
-        return m_text.substr(begin, end - begin);
-    }
+    const char* begin = m_at;
+    m_at = plainEnd(begin, m_end);
+    if (m_at != m_end && *m_at == '"')
+        return {begin, static_cast<std::size_t>(m_at++ - begin)};
     // An end that isn't there, or a control character, is for `unescape` to find.
     unescaped = unescape(begin);
     return {unescaped.constData(), std::size_t(unescaped.size())};
 }
 
-QByteArray JsonReader::unescape(std::size_t begin) {
-    QByteArray bytes(m_text.data() + begin, static_cast<qsizetype>(m_at - begin));
-    while (m_at < m_text.size()) {
-        const char byte = m_text[m_at++];
+QByteArray JsonReader::unescape(const char* begin) {
+    QByteArray bytes(begin, static_cast<qsizetype>(m_at - begin));
+    while (m_at != m_end) {
+        const char byte = *m_at++;
         if (byte == '"')
             return bytes;
         if (static_cast<unsigned char>(byte) < 0x20)
@@ -195,7 +221,7 @@ QByteArray JsonReader::unescape(std::size_t begin) {
 void JsonReader::appendEscape(QByteArray& bytes) {
     constexpr std::string_view names = "\"\\/bfnrt";
     constexpr std::string_view meanings = "\"\\/\b\f\n\r\t";
-    const char name = m_at < m_text.size() ? m_text[m_at++] : '\0';
+    const char name = m_at != m_end ? *m_at++ : '\0';
     if (name != 'u') {
         const auto index = name == '\0' ? std::string_view::npos : names.find(name);
         if (index == std::string_view::npos)
@@ -204,8 +230,8 @@ void JsonReader::appendEscape(QByteArray& bytes) {
         return;
     }
     const char32_t unit = escapedUnit();
-    if (isHighSurrogate(unit) && m_text.substr(m_at, 2) == "\\u") {
-        const std::size_t second = m_at;
+    if (isHighSurrogate(unit) && rest().starts_with("\\u")) {
+        const char* second = m_at;
         m_at += 2;
         const char32_t low = escapedUnit();
         if (isLowSurrogate(low))
@@ -217,7 +243,7 @@ void JsonReader::appendEscape(QByteArray& bytes) {
 
 char32_t JsonReader::escapedUnit() {
     constexpr std::size_t digitCount = 4;
-    const std::string_view digits = m_text.substr(m_at, digitCount);
+    const std::string_view digits = rest().substr(0, digitCount);
     unsigned unit = 0;
     const auto end = digits.data() + digits.size();
     const auto result = std::from_chars(digits.data(), end, unit, 16);
@@ -229,8 +255,8 @@ char32_t JsonReader::escapedUnit() {
 
 std::string_view JsonReader::numberText() {
     peek();
-    const std::size_t begin = m_at;
-    const auto at = [this] { return m_at < m_text.size() ? m_text[m_at] : '\0'; };
+    const char* begin = m_at;
+    const auto at = [this] { return m_at != m_end ? *m_at : '\0'; };
     if (at() == '-')
         ++m_at;
     if (at() == '0')
@@ -247,12 +273,12 @@ std::string_view JsonReader::numberText() {
             ++m_at;
         takeDigits();
     }
-    return m_text.substr(begin, m_at - begin);
+    return {begin, static_cast<std::size_t>(m_at - begin)};
 }
 
 void JsonReader::takeDigits() {
-    const std::size_t begin = m_at;
-    while (m_at < m_text.size() && isDigit(m_text[m_at]))
+    const char* begin = m_at;
+    while (m_at != m_end && isDigit(*m_at))
         ++m_at;
     if (m_at == begin)
         throw JsonError("no number");

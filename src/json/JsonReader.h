@@ -61,21 +61,52 @@ public:
 private:
     void enter(char bracket);
     bool nextItem(char bracket, bool isFirst);
-    void skipWhiteSpace();
     char peek();
     void expect(char character);
+    void skipWhiteSpace();
     bool takeWord(std::string_view word);
     std::string_view stringBytes(QByteArray& unescaped);
-    QByteArray unescape(std::size_t begin);
+    QByteArray unescape(const char* begin);
     void appendEscape(QByteArray& bytes);
     char32_t escapedUnit();
     std::string_view numberText();
     void takeDigits();
+    [[nodiscard]] std::string_view rest() const {
+        return {m_at, static_cast<std::size_t>(m_end - m_at)};
+    }
 
     QByteArray m_owner;
-    std::string_view m_text;
-    std::size_t m_at = 0;
+    const char* m_at;
+    const char* m_end;
     int m_depth = 0;
 };
+
+// Between the values of a library these are called millions of times, so they are in here.
+
+inline char JsonReader::peek() {
+    if (m_at == m_end || static_cast<unsigned char>(*m_at) <= 0x20) {
+        skipWhiteSpace();
+        if (m_at == m_end)
+            throw JsonError("the text ends too soon");
+    }
+    return *m_at;
+}
+
+inline void JsonReader::expect(char character) {
+    if (peek() != character)
+        throw JsonError("another character expected");
+    ++m_at;
+}
+
+inline bool JsonReader::nextItem(char bracket, bool isFirst) {
+    if (peek() == bracket) {
+        ++m_at;
+        --m_depth;
+        return false;
+    }
+    if (!isFirst)
+        expect(',');
+    return true;
+}
 
 } // namespace dropshade

@@ -8,12 +8,12 @@
 namespace dropshade {
 namespace {
 
-constexpr std::size_t textLength = 36;
 constexpr std::size_t byteCount = 16;
 
-constexpr bool isHyphenPlace(std::size_t index) {
-    return index == 8 || index == 13 || index == 18 || index == 23;
-}
+/// Where the digits of each byte begin, with a hyphen before some.
+constexpr std::array<std::size_t, byteCount> bytePlaces = {0,  2,  4,  6,  9,  11, 14, 16,
+                                                           19, 21, 24, 26, 28, 30, 32, 34};
+constexpr std::array<std::size_t, 4> hyphenPlaces = {8, 13, 18, 23};
 
 /// The value of each character as a digit, or −1.
 constexpr auto digitValues = [] {
@@ -39,23 +39,23 @@ QString uuidText(const QUuid& id) {
 }
 
 std::optional<QUuid> uuidFromText(std::string_view text) {
-    if (text.size() != textLength)
+    if (text.size() != uuidTextLength)
         return std::nullopt;
+    const char* characters = text.data();
+    bool isGood = true;
+    for (const std::size_t place : hyphenPlaces)
+        isGood &= characters[place] == '-';
     std::array<unsigned char, byteCount> bytes{};
-    std::size_t byte = 0;
-    for (std::size_t index = 0; index < textLength;) {
-        if (isHyphenPlace(index)) {
-            if (text[index++] != '-')
-                return std::nullopt;
-            continue;
-        }
-        const int high = hexDigit(text[index]);
-        const int low = hexDigit(text[index + 1]);
-        if (high < 0 || low < 0)
-            return std::nullopt;
-        bytes[byte++] = static_cast<unsigned char>(high * 16 + low);
-        index += 2;
+    int allDigits = 0;
+    for (std::size_t index = 0; index < byteCount; ++index) {
+        const int high = hexDigit(characters[bytePlaces[index]]);
+        const int low = hexDigit(characters[bytePlaces[index] + 1]);
+        // What is no digit is negative, and stays so in here.
+        allDigits |= high | low;
+        bytes[index] = static_cast<unsigned char>(high * 16 + low);
     }
+    if (!isGood || allDigits < 0)
+        return std::nullopt;
     const auto pair = [&bytes](std::size_t at) {
         return static_cast<ushort>((bytes[at] << 8U) | bytes[at + 1]);
     };

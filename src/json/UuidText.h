@@ -5,10 +5,13 @@
 #include <QString>
 #include <QUuid>
 
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
 namespace dropshade {
+
+inline constexpr std::size_t uuidTextLength = 36;
 
 /// The 36 characters of the id: upper case, without braces.
 [[nodiscard]] QString uuidText(const QUuid& id);

@@ -8,8 +8,8 @@ namespace dropshade {
 namespace {
 
 /// About what a labelled swatch takes, so that the text of a library is not moved while it grows.
-constexpr std::size_t bytesPerSwatch = 96;
-constexpr std::size_t bytesPerScale = 96;
+constexpr qsizetype bytesPerSwatch = 96;
+constexpr qsizetype bytesPerScale = 96;
 
 void write(JsonWriter& json, const PaletteSwatch& swatch) {
     json.beginObject();
@@ -54,10 +54,10 @@ void write(JsonWriter& json, const Palette& palette) {
     json.endObject();
 }
 
-std::size_t expectedSize(const Palette& palette) {
-    std::size_t size = bytesPerScale;
+qsizetype expectedSize(const Palette& palette) {
+    qsizetype size = bytesPerScale;
     for (const PaletteScale& scale : palette.scales())
-        size += bytesPerScale + bytesPerSwatch * std::size_t(scale.swatches().size());
+        size += bytesPerScale + bytesPerSwatch * scale.swatches().size();
     return size;
 }
 
@@ -75,7 +75,7 @@ PaletteSwatch readSwatch(JsonReader& json) {
         else
             json.skip();
     });
-    return PaletteSwatch(required(id), required(value), std::move(label));
+    return PaletteSwatch(required(id), required(std::move(value)), std::move(label));
 }
 
 PaletteScale readScale(JsonReader& json) {
@@ -132,7 +132,7 @@ std::optional<QByteArray> encodedPalette(const Palette& palette) {
 
 std::optional<QByteArray> encodedPalettes(const QList<Palette>& palettes) {
     return encodedJson([&palettes](JsonWriter& json) {
-        std::size_t size = 2;
+        qsizetype size = 2;
         for (const Palette& palette : palettes)
             size += expectedSize(palette);
         json.reserve(size);

@@ -148,6 +148,34 @@ TEST(JsonReader, KeepsByteOrderMarksInFrontOfAString) {
     EXPECT_EQ(reader.string(), QStringLiteral("\uFEFF\uFEFFa"));
 }
 
+TEST(JsonReader, FindsWhatEndsAStringAtAnyPlace) {
+    for (qsizetype place = 0; place < 40; ++place) {
+        const QByteArray before(place, 'x');
+        const QString text = QString::fromLatin1(before);
+        EXPECT_EQ(string("\"" + before + "\"yyyyyyyy\""), text);
+        EXPECT_EQ(string("\"" + before + "\\n\xC3\xA9\""), text + QStringLiteral("\n\u00E9"));
+        EXPECT_EQ(string("\"" + before + "\xC3\xA9z\""), text + QStringLiteral("\u00E9z"));
+        EXPECT_EQ(string("\"" + before + "\x7F\""), text + QChar(0x7F));
+        EXPECT_FALSE(isJson("\"" + before + "\x1F\""));
+        EXPECT_FALSE(isJson("\"" + before));
+    }
+}
+
+TEST(JsonReader, ReadsAnIdHoweverItIsWritten) {
+    const QUuid id(QStringLiteral("0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9"));
+    for (const char* text : {R"("0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9")",
+                             R"( "0a1b2c3d-4e5f-6071-8293-a4b5c6d7e8f9" )",
+                             R"("\u0030A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9")"}) {
+        JsonReader json(text);
+        EXPECT_EQ(json.uuid(), id) << text;
+        json.end();
+    }
+    for (const char* text :
+         {R"("0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F")", R"("0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F9)",
+          R"("0A1B2C3D-4E5F-6071-8293-A4B5C6D7E8F90")", R"("")", "null", ""})
+        EXPECT_THROW(static_cast<void>(JsonReader(text).uuid()), JsonError) << text;
+}
+
 TEST(JsonReader, ReadsBooleansAndNothingElseAsOne) {
     JsonReader json("[true, false]");
     QList<bool> values;

@@ -68,6 +68,33 @@ TEST(JsonWriter, RefusesNumbersThatAreNotFinite) {
     }
 }
 
+TEST(JsonWriter, HasRoomForWhateverComes) {
+    for (const qsizetype room : {0, 1, 300, 100'000}) {
+        for (qsizetype length = 0; length < 700; length += 7) {
+            JsonWriter json;
+            json.reserve(room);
+            const QString plain(length, QChar(u'a'));
+            const QString escaped(length, QChar(u'\n'));
+            json.beginArray();
+            json.string(plain);
+            json.string(escaped);
+            json.endArray();
+            EXPECT_EQ(json.text(), "[\"" + QByteArray(length, 'a') + "\",\"" +
+                                       QByteArray("\\u000a").repeated(length) + "\"]");
+        }
+    }
+}
+
+TEST(JsonWriter, BeginsAnewOnceItHasGivenItsText) {
+    JsonWriter json;
+    json.number(1.0);
+    const QByteArray first = json.text();
+    json.string(QStringLiteral("another"));
+    EXPECT_EQ(json.text(), "\"another\"");
+    EXPECT_EQ(first, "1");
+    EXPECT_EQ(json.text(), "");
+}
+
 double readBack(double value) {
     JsonWriter json;
     json.number(value);

@@ -51,5 +51,21 @@ TEST(UuidFromText, TakesNothingElse) {
         EXPECT_FALSE(uuidFromText(text)) << text.toStdString();
 }
 
+TEST(UuidFromText, TakesNoOtherCharacterAtAnyPlace) {
+    for (qsizetype place = 0; place < upper.size(); ++place) {
+        for (const char character : {'-', '0', 'f', 'G', '/', ':', '@', '`', ' ', '\x80'}) {
+            QByteArray text = upper.toLatin1();
+            text[place] = character;
+            const bool isHyphenPlace = upper.at(place) == QLatin1Char('-');
+            const bool isTaken =
+                isHyphenPlace ? character == '-' : character == '0' || character == 'f';
+            EXPECT_EQ(uuidFromText(std::string_view(text.constData(), std::size_t(text.size())))
+                          .has_value(),
+                      isTaken)
+                << text.constData();
+        }
+    }
+}
+
 } // namespace
 } // namespace dropshade
