@@ -3,16 +3,40 @@
 #include "contrast/ContrastMetrics.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace dropshade {
 
 namespace {
 
-double linearChannel(double component) {
+constexpr double byteMaximum = 255.0;
+
+double computedLinearChannel(double component) {
     if (component <= 0.04045)
         return component / 12.92;
     return std::pow((component + 0.055) / 1.055, 2.4);
+}
+
+/// What `computedLinearChannel` gives for each byte.
+std::array<double, 256> linearBytes() {
+    std::array<double, 256> values{};
+    for (std::size_t byte = 0; byte < values.size(); ++byte)
+        values[byte] = computedLinearChannel(double(byte) / byteMaximum);
+    return values;
+}
+
+double linearChannel(double component) {
+    // Most colours come from hexadecimal digits, a library holds thousands, and powers are slow.
+    static const std::array<double, 256> ofBytes = linearBytes();
+    const double scaled = component * byteMaximum;
+    if (scaled >= 0.0 && scaled <= byteMaximum) {
+        const auto byte = static_cast<std::size_t>(scaled + 0.5);
+        if (double(byte) / byteMaximum == component)
+            return ofBytes[byte];
+    }
+    return computedLinearChannel(component);
 }
 
 double apcaChannel(double component) {

@@ -28,15 +28,15 @@ SRGBColor pinTintOver(const SRGBColor& color, bool prefersLightText) {
 
 } // namespace
 
-PaletteSwatch::PaletteSwatch(const QString& value, std::optional<QString> label)
-    : PaletteSwatch(QUuid::createUuid(), value, std::move(label)) {}
+PaletteSwatch::PaletteSwatch(QString value, std::optional<QString> label)
+    : PaletteSwatch(QUuid::createUuid(), std::move(value), std::move(label)) {}
 
-PaletteSwatch::PaletteSwatch(const QUuid& id, const QString& value, std::optional<QString> label) {
+PaletteSwatch::PaletteSwatch(const QUuid& id, QString value, std::optional<QString> label) {
     auto data = std::make_unique<Data>();
     data->id = id;
-    data->value = value;
+    data->value = std::move(value);
     data->label = std::move(label);
-    data->color = parsedColorOrBlack(value);
+    data->color = parsedColorOrBlack(data->value);
     data->prefersLightText = prefersLightInk(data->color);
     data->pinTint = pinTintOver(data->color, data->prefersLightText);
     d = QExplicitlySharedDataPointer<const Data>(data.release());

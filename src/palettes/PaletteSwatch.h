@@ -20,9 +20,8 @@ namespace dropshade {
 class PaletteSwatch {
 public:
     /// A swatch with a new random id.
-    explicit PaletteSwatch(const QString& value, std::optional<QString> label = std::nullopt);
-    PaletteSwatch(const QUuid& id, const QString& value,
-                  std::optional<QString> label = std::nullopt);
+    explicit PaletteSwatch(QString value, std::optional<QString> label = std::nullopt);
+    PaletteSwatch(const QUuid& id, QString value, std::optional<QString> label = std::nullopt);
 
     const QUuid& id() const { return d->id; }
     /// The colour's text exactly as it was typed, imported or built in.

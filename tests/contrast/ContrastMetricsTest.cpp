@@ -51,6 +51,19 @@ TEST(RelativeLuminance, EachPrimaryHasItsFourDigitWeight) {
     EXPECT_EQ(relativeLuminance(0.0, 0.0, 1.0), 0.0722);
 }
 
+TEST(RelativeLuminance, AByteHasTheBitsOfItsFormulaAndSoHaveItsNeighbours) {
+    const auto linear = [](double component) {
+        return component <= 0.04045 ? component / 12.92
+                                    : std::pow((component + 0.055) / 1.055, 2.4);
+    };
+    for (int byte = 0; byte <= 255; ++byte) {
+        const double component = byte / 255.0;
+        for (const double near :
+             {std::nextafter(component, -1.0), component, std::nextafter(component, 2.0)})
+            EXPECT_EQ(relativeLuminance(0.0, near, 0.0), linear(near) * 0.7152) << byte;
+    }
+}
+
 TEST(RelativeLuminance, DoesNotClampComponentsOfAWiderSpace) {
     EXPECT_GT(relativeLuminance(1.2, 1.0, 1.0), 1.0);
     EXPECT_EQ(relativeLuminance(-0.1, 0.0, 0.0), -0.1 / 12.92 * 0.2126);

@@ -29,6 +29,15 @@ TEST(PaletteSwatch, KeepsItsTextExactlyAndTheColorBeside) {
     EXPECT_EQ(typed.color(), SRGBColor(1.0, 0.0, 0.0));
 }
 
+TEST(PaletteSwatch, ReadsItsColorFromTextOfAnyLengthAndAlphabet) {
+    const SRGBColor red(1.0, 0.0, 0.0);
+    for (int blanks = 0; blanks < 80; ++blanks)
+        EXPECT_EQ(PaletteSwatch(QString(blanks, QChar(u' ')) + QStringLiteral("red")).color(), red);
+    EXPECT_EQ(swatch("\u2003red").color(), red);
+    EXPECT_EQ(swatch("r\u0119d").color(), black);
+    EXPECT_EQ(PaletteSwatch(QStringLiteral("red") + QChar(u'\0')).color(), black);
+}
+
 TEST(PaletteSwatch, HasNoLabelUnlessGivenOneAndTellsAnEmptyLabelFromNone) {
     EXPECT_FALSE(swatch("red").label());
     EXPECT_EQ(PaletteSwatch(QStringLiteral("red"), QString()).label(), QString());
