@@ -5,7 +5,7 @@
 
 build_packages="g++ cmake ninja-build pkg-config qt6-base-dev qt6-multimedia-dev qt6-svg-dev
     qt6-wayland libwayland-dev libsqlite3-dev libxcb1-dev libxcb-keysyms1-dev libxcb-xkb-dev
-    libxkbcommon-dev libxkbcommon-x11-dev libheif-dev libsndfile1-dev libplist-dev zlib1g-dev
+    libxkbcommon-dev libxkbcommon-x11-dev libheif-dev libsndfile1-dev libplist-dev libdeflate-dev
     liblcms2-dev libgs-common libsecret-1-dev wl-clipboard qt6-image-formats-plugins
     qt6-translations-l10n qt6-l10n-tools qt6-tools-dev"
 desktop_packages="xvfb openbox trayer dbus-daemon xclip xauth xdotool python3 python3-xlib fonts-dejavu-core"

@@ -2,53 +2,52 @@
 // SPDX-License-Identifier: MIT
 #include "sync/SyncValueCodec.h"
 
-#include <zlib.h>
+#include <libdeflate.h>
 
 #include <algorithm>
+#include <memory>
 
 namespace dropshade {
 namespace {
 
 constexpr char frameMark = 0x01;
 constexpr qsizetype markSize = 1;
-constexpr int rawDeflate = -MAX_WBITS;
+constexpr int compressionLevel = 6;
 constexpr qsizetype spareRoom = 64;
 
-// A reader tries these capacities in turn and takes what is shorter than the one at hand.
-constexpr qsizetype firstCapacityPerByte = 8;
-constexpr qsizetype leastFirstCapacity = 1024;
-constexpr qsizetype capacityGrowth = 4;
-constexpr int mostAttempts = 4;
+// A fair text is shorter than this.
+constexpr qsizetype mostPerByte = 512;
+constexpr qsizetype leastMost = 65'536;
 
-Bytef* bytesOf(QByteArray& bytes, qsizetype offset) {
-    return reinterpret_cast<Bytef*>(bytes.data() + offset);
-}
+// The texts of palettes are three times as long as their streams. More room than that would be
+// given back to the system after each value, to be asked for anew, page by page.
+constexpr qsizetype usualPerByte = 4;
+constexpr qsizetype roomGrowth = 4;
 
-/// zlib reads through a pointer that isn't const, and writes nothing there.
-Bytef* inputOf(const QByteArray& bytes, qsizetype offset) {
-    return reinterpret_cast<Bytef*>(const_cast<char*>(bytes.constData() + offset));
+struct FreeCodec {
+    void operator()(libdeflate_compressor* codec) const { libdeflate_free_compressor(codec); }
+    void operator()(libdeflate_decompressor* codec) const { libdeflate_free_decompressor(codec); }
+};
+
+std::size_t sizeOf(const QByteArray& bytes) {
+    return static_cast<std::size_t>(bytes.size());
 }
 
 } // namespace
 
 QByteArray compressedValue(const QByteArray& plain) {
-    z_stream stream = {};
-    if (deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, rawDeflate, MAX_MEM_LEVEL - 1,
-                     Z_DEFAULT_STRATEGY) != Z_OK)
+    const std::unique_ptr<libdeflate_compressor, FreeCodec> codec(
+        libdeflate_alloc_compressor(compressionLevel));
+    if (codec == nullptr)
         return plain;
-    const qsizetype room = plain.size() + spareRoom;
-    QByteArray frame(markSize + room, Qt::Uninitialized);
+    QByteArray frame(markSize + plain.size() + spareRoom, Qt::Uninitialized);
     frame[0] = frameMark;
-    stream.next_in = inputOf(plain, 0);
-    stream.avail_in = static_cast<uInt>(plain.size());
-    stream.next_out = bytesOf(frame, markSize);
-    stream.avail_out = static_cast<uInt>(room);
-    const bool fits = deflate(&stream, Z_FINISH) == Z_STREAM_END;
-    const auto left = static_cast<qsizetype>(stream.avail_out);
-    deflateEnd(&stream);
-    if (!fits)
+    const std::size_t size =
+        libdeflate_deflate_compress(codec.get(), plain.constData(), sizeOf(plain),
+                                    frame.data() + markSize, sizeOf(frame) - markSize);
+    if (size == 0)
         return plain;
-    frame.resize(frame.size() - left);
+    frame.truncate(markSize + static_cast<qsizetype>(size));
     frame.squeeze();
     return frame;
 }
@@ -56,31 +55,27 @@ QByteArray compressedValue(const QByteArray& plain) {
 std::optional<QByteArray> decompressedValue(const QByteArray& stored) {
     if (stored.size() <= markSize || stored.front() != frameMark)
         return stored;
-    z_stream stream = {};
-    if (inflateInit2(&stream, rawDeflate) != Z_OK)
-        return std::nullopt;
+    const std::unique_ptr<libdeflate_decompressor, FreeCodec> codec(
+        libdeflate_alloc_decompressor());
     const qsizetype payload = stored.size() - markSize;
-    qsizetype capacity = std::max(firstCapacityPerByte * payload, leastFirstCapacity);
+    const qsizetype most = std::max(mostPerByte * payload, leastMost);
+    auto result = codec ? LIBDEFLATE_INSUFFICIENT_SPACE : LIBDEFLATE_BAD_DATA;
     QByteArray plain;
-    qsizetype size = 0;
-    int result = Z_OK;
-    stream.next_in = inputOf(stored, markSize);
-    stream.avail_in = static_cast<uInt>(payload);
-    // One stream goes through all attempts: each would only do again what the last one did.
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-        plain.resize(capacity);
-        stream.next_out = bytesOf(plain, size);
-        stream.avail_out = static_cast<uInt>(capacity - size);
-        result = inflate(&stream, Z_NO_FLUSH);
-        size = capacity - static_cast<qsizetype>(stream.avail_out);
-        if (stream.avail_out > 0)
-            break;
-        capacity *= capacityGrowth;
+    std::size_t size = 0;
+    for (qsizetype room = usualPerByte * payload; result == LIBDEFLATE_INSUFFICIENT_SPACE;
+         room = std::min(room * roomGrowth, most)) {
+        if (plain.size() == most)
+            return std::nullopt;
+        plain = QByteArray(room, Qt::Uninitialized);
+        // What follows the stream is passed over.
+        std::size_t taken = 0;
+        result = libdeflate_deflate_decompress_ex(codec.get(), stored.constData() + markSize,
+                                                  static_cast<std::size_t>(payload), plain.data(),
+                                                  sizeOf(plain), &taken, &size);
     }
-    inflateEnd(&stream);
-    if (result != Z_STREAM_END || size == 0 || stream.avail_out == 0)
+    if (result != LIBDEFLATE_SUCCESS || size == 0 || static_cast<qsizetype>(size) == most)
         return std::nullopt;
-    plain.resize(size);
+    plain.truncate(static_cast<qsizetype>(size));
     plain.squeeze();
     return plain;
 }

@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <zlib.h>
-
 #include <random>
 
 namespace dropshade {
