@@ -221,8 +221,8 @@ TEST_F(SqliteDefaultsRefusal, IsMadeUpForWhenTheObjectEnds) {
 TEST_F(SqliteDefaultsRefusal, OfOneLargeValueLeavesTheOthersStored) {
     SqliteDefaults store(m_path);
     ASSERT_TRUE(store.setValue(oldKey, true));
-    const FileSizeLimit limit(65536);
-    EXPECT_FALSE(store.setValue(newKey, QByteArray(200000, 'x')));
+    const FileSizeLimit limit(512 * 1024);
+    EXPECT_FALSE(store.setValue(newKey, QByteArray(2000000, 'x')));
     EXPECT_TRUE(store.setValue(nextKey, true));
     EXPECT_EQ(SqliteDefaults(m_path).value(nextKey), DefaultsValue(true));
     EXPECT_TRUE(store.contains(newKey));

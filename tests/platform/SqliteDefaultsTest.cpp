@@ -99,6 +99,9 @@ struct Damage {
     std::function<QByteArray(QByteArray)> apply;
 };
 
+/// What a fresh file is made of.
+constexpr qsizetype pageSize = 32 * 1024;
+
 QByteArray overwritten(QByteArray content, qsizetype position, qsizetype size) {
     return content.replace(position, size, QByteArray(size, '\xa5'));
 }
@@ -108,15 +111,17 @@ const std::vector<Damage> damages = {
     {"ShortGarbage", 3, [](const QByteArray&) { return QByteArray("short"); }},
     {"HeaderCut", 3, [](const QByteArray& content) { return content.left(50); }},
     {"HeaderOnly", 3, [](const QByteArray& content) { return content.left(100); }},
-    {"LastPageCut", 30, [](const QByteArray& content) { return content.chopped(4096); }},
+    {"LastPageCut", 30, [](const QByteArray& content) { return content.chopped(pageSize); }},
     {"PageInTheMiddle", 30,
-     [](const QByteArray& content) { return overwritten(content, 8192, 4096); }},
+     [](const QByteArray& content) { return overwritten(content, 2 * pageSize, pageSize); }},
     {"PageInTheMiddleOfALargeFile", 2000,
      [](const QByteArray& content) {
-         return overwritten(content, content.size() / 8192 * 4096, 4096);
+         return overwritten(content, content.size() / pageSize / 2 * pageSize, pageSize);
      }},
     {"SecondHalfOfALargeFileCut", 2000,
-     [](const QByteArray& content) { return content.left(content.size() / 8192 * 4096); }},
+     [](const QByteArray& content) {
+         return content.left(content.size() / pageSize / 2 * pageSize);
+     }},
     {"AnotherProgramsFile", 0, [](const QByteArray& content) { return content; }},
 };
 

@@ -82,7 +82,9 @@ struct Binder {
     }
     int operator()(const QByteArray& value) {
         type = StoredType::Data;
-        return bindBytes(statement, parameter, value);
+        // A library is large: SQLite reads it where it lies.
+        return sqlite3_bind_blob64(statement, parameter, value.constData(),
+                                   static_cast<sqlite3_uint64>(value.size()), SQLITE_STATIC);
     }
     int operator()(const QStringList& value) {
         type = StoredType::StringList;

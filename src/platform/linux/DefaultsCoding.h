@@ -23,7 +23,8 @@ namespace dropshade {
 /// The text that `bindText` stored in this column of the present row.
 [[nodiscard]] QString textIn(sqlite3_stmt* statement, int column);
 
-/// Binds the type of `value` to a parameter and the value to the next one.
+/// Binds the type of `value` to a parameter and the value to the next one. Data is not copied: the
+/// value must live for as long as it is bound.
 [[nodiscard]] int bindValue(sqlite3_stmt* statement, int parameter, const DefaultsValue& value);
 
 /// The value whose type stands in this column of the present row and whose value in the next one;
