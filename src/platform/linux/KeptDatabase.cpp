@@ -77,6 +77,10 @@ bool KeptDatabase::write(Deadline deadline, const Work& work) {
     return false;
 }
 
+void KeptDatabase::moveLog() {
+    read([](SqliteDatabase& database) { return database.execute("PRAGMA wal_checkpoint"); });
+}
+
 /// Runs `work` on the file that is at the path, and once more on a fresh one if it turns out to be
 /// damaged.
 int KeptDatabase::attempt(Need need, Deadline deadline, const Work& work) {

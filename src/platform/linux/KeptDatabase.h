@@ -57,6 +57,10 @@ public:
     /// Runs `work` in a transaction. False when nothing of it was stored.
     [[nodiscard]] bool write(Deadline deadline, const Work& work);
 
+    /// Moves what the log has into the file, which SQLite else does within a write that makes the
+    /// log long. It waits for the disk; no other connection waits for it.
+    void moveLog();
+
     /// When a call that begins now gives up waiting for other processes.
     [[nodiscard]] static Deadline deadline();
 

@@ -17,8 +17,8 @@ constexpr DatabaseForm form = {
     "PRAGMA application_id = 0x44725270;"
     "PRAGMA user_version = 1",
     // What a power cut takes of a replica, the next start gives it again: not worth a wait on the
-    // disk at each push.
-    "PRAGMA synchronous = NORMAL; PRAGMA journal_size_limit = 0"};
+    // disk at each push. Nor is that of a move of the log.
+    "PRAGMA synchronous = NORMAL; PRAGMA journal_size_limit = 0; PRAGMA wal_autocheckpoint = 0"};
 
 constexpr std::string_view selectRow =
     "SELECT key, type, value, version, writtenAt, serial FROM replica WHERE key = ?1";

@@ -41,6 +41,10 @@ public:
     [[nodiscard]] bool write(const Changes& changes,
                              const std::optional<QByteArray>& cursor = std::nullopt);
 
+    /// Writes only make the log longer. Moves it into the file, which waits for the disk: for
+    /// another thread, on a database of its own with the same path.
+    void moveLog() { m_database.moveLog(); }
+
 private:
     mutable KeptDatabase m_database;
 };

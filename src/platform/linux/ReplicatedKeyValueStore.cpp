@@ -20,9 +20,21 @@ constexpr std::chrono::milliseconds longestFarewell{1000};
 constexpr qsizetype mostBytesAtOnce = 512 * 1024;
 constexpr std::size_t mostRowsAtOnce = 32;
 
+/// When so much has been written the log of a replica is moved into its file; a log that has grown
+/// to the second size while it was moved is one that the next write must wait for.
+constexpr qsizetype longLog = 4 * 1024 * 1024;
+constexpr qsizetype longestLog = 32 * 1024 * 1024;
+
 qsizetype sizeOf(const ReplicaRow& row) {
     const QByteArray* data = row.value ? std::get_if<QByteArray>(&*row.value) : nullptr;
     return data ? data->size() : 64;
+}
+
+qsizetype sizeOf(const ReplicaDatabase::Changes& changes) {
+    qsizetype size = 0;
+    for (const auto& [key, row] : changes)
+        size += row ? sizeOf(*row) : 0;
+    return size;
 }
 
 } // namespace
@@ -33,6 +45,8 @@ ReplicatedKeyValueStore::ReplicatedKeyValueStore(const UserDefaults& defaults,
 
 ReplicatedKeyValueStore::~ReplicatedKeyValueStore() {
     static_cast<void>(commit());
+    if (m_logMover)
+        m_logMover->wait();
 }
 
 QString ReplicatedKeyValueStore::defaultFolder() {
@@ -173,13 +187,39 @@ void ReplicatedKeyValueStore::synchronize() {
 bool ReplicatedKeyValueStore::commit(const std::optional<QByteArray>& cursor) {
     if (m_uncommitted.empty() && !cursor)
         return true;
+    // A write begins the log anew where all of it has been moved.
+    if (m_logMover && m_logMover->isFinished() && m_unmovedSize == 0)
+        m_logSize = 0;
     const bool isKept = database().write(m_uncommitted, cursor);
-    if (isKept)
+    if (isKept) {
+        const qsizetype size = sizeOf(m_uncommitted);
+        m_logSize += size;
+        m_unmovedSize += size;
         m_uncommitted.clear();
+        moveLog();
+    }
     //: The changes of this machine that wait to be sent can't be kept on the disk.
     const QString words = tr("The disk is full or can't be written.");
     setTrouble(m_diskTrouble, isKept ? QString() : words);
     return isKept;
+}
+
+/// Has a long log moved into the file by another thread, for that waits for the disk, where writes
+/// only make the log longer.
+void ReplicatedKeyValueStore::moveLog() {
+    const bool isTooLong = m_logSize > longestLog;
+    const bool isMoving = m_logMover && m_logMover->isRunning();
+    if (m_unmovedSize <= longLog || (isMoving && !isTooLong))
+        return;
+    m_unmovedSize = 0;
+    if (isTooLong && m_logMover) {
+        m_logMover->wait();
+        database().moveLog();
+        m_logSize = 0;
+        return;
+    }
+    m_logMover.reset(QThread::create([path = m_path] { ReplicaDatabase(path).moveLog(); }));
+    m_logMover->start();
 }
 
 QString ReplicatedKeyValueStore::trouble() const {

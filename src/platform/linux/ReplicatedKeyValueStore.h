@@ -8,6 +8,7 @@
 #include "platform/linux/replica/ReplicaTransport.h"
 
 #include <QSet>
+#include <QThread>
 
 namespace dropshade {
 
@@ -59,6 +60,7 @@ private:
     void waitForSending();
     void write(const QString& key, const std::optional<CloudValue>& value);
     bool commit(const std::optional<QByteArray>& cursor = std::nullopt);
+    void moveLog();
     void sendUnsent();
     [[nodiscard]] std::map<qint64, std::pair<QString, ReplicaRow>> unsent() const;
 
@@ -83,6 +85,10 @@ private:
     mutable qint64 m_serial = 0;
     /// What is not on the disk yet.
     ReplicaDatabase::Changes m_uncommitted;
+    /// About how many bytes lie in the log of the replica, and how many since it was last moved.
+    qsizetype m_logSize = 0;
+    qsizetype m_unmovedSize = 0;
+    std::unique_ptr<QThread> m_logMover;
     ConflictRule m_rule;
     std::unique_ptr<ReplicaTransport> m_transport;
     bool m_isReady = false;
