@@ -176,6 +176,59 @@ BENCHMARK(pushOfOne)
     ->Arg(1000)
     ->Unit(benchmark::kMillisecond);
 
+/// All of a library goes into a cloud that has nothing of it: encoded, compressed and kept, in one
+/// turn.
+void firstPush(benchmark::State& state) {
+    QList<Palette> palettes;
+    for (int number = 0; number < state.range(0); ++number)
+        palettes.append(paletteOf(number));
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto machine = std::make_unique<Machine>(0);
+        machine->palettes.setPalettes(palettes);
+        machine->palettes.flushPendingSave();
+        state.ResumeTiming();
+        machine->engine.flushPendingPushes();
+        state.PauseTiming();
+        machine.reset();
+        state.ResumeTiming();
+    }
+    perSwatch(state);
+}
+BENCHMARK(firstPush)
+    ->Name("sync/first-push")
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
+
+/// What of that is the write of the values into the replica.
+void keepLibrary(benchmark::State& state) {
+    QList<std::pair<QString, QByteArray>> values;
+    for (int number = 0; number < state.range(0); ++number) {
+        const Palette palette = paletteOf(number);
+        values.append(
+            {cloudKeys::palette(palette.id()), compressedValue(*encodedPalette(palette))});
+    }
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto machine = std::make_unique<Machine>(0);
+        for (const auto& [key, value] : values)
+            machine->kvs.setValue(key, value);
+        state.ResumeTiming();
+        machine->kvs.synchronize();
+        state.PauseTiming();
+        machine.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(keepLibrary)
+    ->Name("sync/keep-a-library")
+    ->Arg(10)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Unit(benchmark::kMillisecond);
+
 void compress(benchmark::State& state) {
     const QByteArray json = *encodedPalette(paletteOf(1));
     std::size_t size = 0;
