@@ -180,8 +180,13 @@ void ReplicatedKeyValueStore::write(const QString& key, const std::optional<Clou
 }
 
 void ReplicatedKeyValueStore::synchronize() {
+    const bool isMuch = sizeOf(m_uncommitted) > longLog;
     static_cast<void>(commit());
-    sendUnsent();
+    // To keep much is enough for a turn of the event loop.
+    if (isMuch)
+        QMetaObject::invokeMethod(this, &ReplicatedKeyValueStore::sendUnsent, Qt::QueuedConnection);
+    else
+        sendUnsent();
 }
 
 bool ReplicatedKeyValueStore::commit(const std::optional<QByteArray>& cursor) {
