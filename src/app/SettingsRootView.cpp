@@ -73,8 +73,10 @@ void SettingsRootView::buildGeneral() {
     m_recentColors->setFixedWidth(numberWidth);
     connect(m_recentColors, &QLineEdit::editingFinished, this, [this] {
         // The focus leaves each field that the Tab key visits.
-        if (m_recentColors->isModified())
-            m_model.setRecentColorsLimitText(m_recentColors->text());
+        if (!m_recentColors->isModified())
+            return;
+        m_recentColors->setModified(false);
+        m_model.setRecentColorsLimitText(m_recentColors->text());
     });
     addRow(recentName, m_recentColors);
 
@@ -232,7 +234,9 @@ void SettingsRootView::showDesktopKeys() {
 
 void SettingsRootView::showValues() {
     m_icon->setIconStyle(m_model.menuBarIconStyle());
-    m_recentColors->setText(QLocale().toString(m_model.recentColorsLimit()));
+    // What is being typed stays, though something else in the window changes meanwhile.
+    if (!m_recentColors->isModified())
+        m_recentColors->setText(QLocale().toString(m_model.recentColorsLimit()));
     m_sound->setCurrentValue(m_model.copySound());
     m_login->setChecked(m_model.launchAtLogin());
     m_updates->setChecked(m_model.autoCheckUpdates());

@@ -32,6 +32,8 @@ public:
         lines->setContentsMargins(0, 0, 0, 0);
         lines->addWidget(area);
         view->installEventFilter(this);
+        // What a button does goes by what has been typed: the test of a server, to begin with.
+        endTypingAtPresses();
         // Nothing is chosen by opening: the first Tab goes to the first control.
         setFocus();
         fit();

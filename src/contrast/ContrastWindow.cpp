@@ -11,7 +11,6 @@
 #include "widgets/Metrics.h"
 #include "widgets/SegmentedControl.h"
 #include "widgets/TextButton.h"
-#include "widgets/TextField.h"
 #include "widgets/ToolTip.h"
 
 #include <QHBoxLayout>
@@ -52,8 +51,8 @@ ContrastWindow::ContrastWindow(const ColorWindowSurroundings& surroundings, Anno
     connect(&model, &ContrastModel::colorsDidChange, this, &ContrastWindow::showModel);
     connect(&surroundings.settings, &AppSettings::contrastAlgorithmDidChange, this,
             &ContrastWindow::showAlgorithm);
-    for (const QAbstractButton* button : findChildren<QAbstractButton*>())
-        connect(button, &QAbstractButton::pressed, this, &ContrastWindow::endTyping);
+    // A typed text would show beside the colour that a button brings, and undo it in the end.
+    endTypingAtPresses();
     showAlgorithm();
     // Nothing is marked before the first Tab, which goes to the first control.
     setFocus(Qt::OtherFocusReason);
@@ -137,13 +136,6 @@ QWidget* ContrastWindow::makeBar() {
             close();
     });
     return bar;
-}
-
-// A press leaves the keyboard where it is, and with it a typed text, which would show beside the
-// colour that the button brings, and undo it in the end.
-void ContrastWindow::endTyping() {
-    if (qobject_cast<TextField*>(focusWidget()))
-        setFocus(Qt::OtherFocusReason);
 }
 
 void ContrastWindow::showAlgorithm() {

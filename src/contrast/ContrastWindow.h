@@ -33,7 +33,6 @@ private:
     [[nodiscard]] QWidget* makeBar();
     void showModel();
     void showAlgorithm();
-    void endTyping();
 
     ColorWindowSurroundings m_surroundings;
     ContrastModel& m_model;

@@ -6,8 +6,10 @@
 #include "widgets/FocusRing.h"
 #include "widgets/WindowFrames.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
@@ -75,6 +77,15 @@ void FloatingWindow::present() {
 
 void FloatingWindow::dismiss() {
     close();
+}
+
+void FloatingWindow::endTypingAtPresses() {
+    for (const QAbstractButton* button : findChildren<QAbstractButton*>()) {
+        connect(button, &QAbstractButton::pressed, this, [this] {
+            if (qobject_cast<QLineEdit*>(focusWidget()))
+                setFocus(Qt::OtherFocusReason);
+        });
+    }
 }
 
 void FloatingWindow::closeEvent(QCloseEvent* event) {

@@ -37,6 +37,11 @@ protected:
     /// Escape, or the keys that close a window.
     virtual void dismiss();
 
+    /// From now on, a press of any button that the window has ends the typing in its fields first:
+    /// buttons leave the focus where it is at a click, and what was typed counts when the field is
+    /// left.
+    void endTypingAtPresses();
+
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
