@@ -10,6 +10,8 @@
 #include <QHash>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <utility>
 
 namespace dropshade {
@@ -61,6 +63,18 @@ QList<PaletteSwatch> sorted(const QList<PaletteSwatch>& swatches,
                                              : lightness(a) < lightness(b);
                      });
     return result;
+}
+
+/// `now`, or by a clock that is behind the palette's own moment one just after that: an edit is
+/// later than what it edits, or the copy without it would win on every machine. How much later, the
+/// odd part of this clock says, for two machines that edit one copy must not meet at one moment.
+ReferenceTime momentAfter(ReferenceTime before, ReferenceTime now) {
+    if (now >= before)
+        return now;
+    constexpr double never = std::numeric_limits<double>::infinity();
+    constexpr double largestStep = 0.01;
+    const double step = largestStep * (now.seconds - std::floor(now.seconds));
+    return {std::max(before.seconds + step, std::nextafter(before.seconds, never))};
 }
 
 /// The name to set, or nothing where a rename to `to` means none.
@@ -382,7 +396,7 @@ bool UserPaletteStore::editPalette(QUuid id, const PaletteEdit& edit) {
     Palette palette = m_palettes.at(index);
     if (!edit(palette))
         return false;
-    palette.setLastModified(m_scheduler.now());
+    palette.setLastModified(momentAfter(palette.lastModified(), m_scheduler.now()));
     m_palettes.replace(index, palette);
     Q_EMIT palettesDidChange();
     return true;

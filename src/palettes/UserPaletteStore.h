@@ -21,8 +21,9 @@ namespace dropshade {
 /// it here. It keeps the favourites in step and writes 0.25 seconds after the last change.
 ///
 /// An operation with an unknown id does nothing. One that changes a palette's content stamps it
-/// with the present moment; the order of the palettes is content of none. Ids and swatches come by
-/// value, so that a caller may name them by what lies in `palettes` itself.
+/// with the present moment, or with one just after its last where the clock says less; the order of
+/// the palettes is content of none. Ids and swatches come by value, so that a caller may name them
+/// by what lies in `palettes` itself.
 class UserPaletteStore : public QObject {
     Q_OBJECT
 

@@ -239,6 +239,28 @@ TEST_F(PaletteStore, TakesIdsAndSwatchesThatLieInItsOwnPalettes) {
     EXPECT_EQ(settings().pinnedColors().size(), 1);
 }
 
+TEST_F(PaletteStore, StampsLaterThanBeforeThoughTheClockHasGoneBackwards) {
+    store().renamePalette(seaId(), QStringLiteral("New"));
+    store().flushPendingSave();
+    const ReferenceTime before = sea().lastModified();
+    scheduler().setNow(ReferenceTime{before.seconds - 1e8});
+    store().renamePalette(seaId(), QStringLiteral("Newer"));
+    const ReferenceTime after = sea().lastModified();
+    EXPECT_GT(after, before);
+    EXPECT_LT(after.seconds, before.seconds + 0.01);
+    // Another machine that edits the same copy gives it another moment.
+    Machine other;
+    other.defaults().setValue(keys::userPalettes, *defaults().read<QByteArray>(keys::userPalettes));
+    other.scheduler().setNow(ReferenceTime{before.seconds - 1e8 + 0.25});
+    other.store().renamePalette(seaId(), QStringLiteral("Newer"));
+    EXPECT_GT(other.store().palettes().first().lastModified(), before);
+    EXPECT_NE(other.store().palettes().first().lastModified(), after);
+    // Once the clock has caught up, it says what counts.
+    scheduler().setNow(ReferenceTime{before.seconds + 1.0});
+    store().renamePalette(seaId(), QStringLiteral("Newest"));
+    EXPECT_EQ(sea().lastModified(), now());
+}
+
 TEST_F(PaletteStore, TakesTheFirstOfTwoPalettesWithOneId) {
     const Palette first = sea();
     Palette second = first;

@@ -262,6 +262,16 @@ TEST_F(CloudSyncPalettes, APaletteWithoutAMomentCountsAsModifiedAtEachPull) {
     EXPECT_EQ(store().palettes().first().lastModified(), ReferenceTime{start + 5.4});
 }
 
+TEST_F(CloudSyncPalettes, AnEditGoesUpThoughWhatItEditsIsOfAClockYearsAhead) {
+    putRemote(numberedPalette(1, start + 1e8, "future"));
+    engine().start();
+    store().renamePalette(numberedId(1), QStringLiteral("now"));
+    scheduler().advance(750);
+    EXPECT_EQ(remote(1)->name(), QStringLiteral("now"));
+    announcePalettes();
+    EXPECT_EQ(store().palettes().first().name(), QStringLiteral("now"));
+}
+
 TEST_F(CloudSyncPalettes, ARepeatedTombstoneEndsTheProcess) {
     putTombstones({{numberedId(1), ReferenceTime{start}}, {numberedId(1), ReferenceTime{start}}});
     EXPECT_DEATH(engine().start(), "Duplicate values for key: '");
