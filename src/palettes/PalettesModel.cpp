@@ -4,6 +4,7 @@
 
 #include "palettes/PaletteSearch.h"
 #include "palettes/PresetChoice.h"
+#include "palettes/SwatchMerge.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +18,11 @@ constexpr double labelShare = 0.2;
 constexpr double leastLabelWidth = 80.0;
 constexpr double mostLabelWidth = 200.0;
 constexpr std::chrono::milliseconds nextTurn{0};
+
+/// An editor that was only opened takes back no name that came from elsewhere meanwhile.
+bool isRename(const QString& before, const QString& present, const QString& to) {
+    return present == before || to != before.trimmed();
+}
 
 } // namespace
 
@@ -325,7 +331,11 @@ std::unique_ptr<NameEdit> PalettesModel::makePaletteRename(QUuid id) {
     return std::make_unique<NameEdit>(
         //: Title of the popover that renames a palette
         tr("Palette Name"), renamed->name(),
-        [this, id](const QString& name) { m_store.renamePalette(id, name); });
+        [this, id, before = renamed->name()](const QString& name) {
+            const auto present = palette(id);
+            if (present && isRename(before, present->name(), name))
+                m_store.renamePalette(id, name);
+        });
 }
 
 std::unique_ptr<NameEdit> PalettesModel::makeScaleRename(QUuid paletteId, QUuid scaleId) {
@@ -334,8 +344,11 @@ std::unique_ptr<NameEdit> PalettesModel::makeScaleRename(QUuid paletteId, QUuid 
         return nullptr;
     return std::make_unique<NameEdit>(
         //: Title of the popover that renames a scale
-        tr("Scale Name"), renamed->name(), [this, paletteId, scaleId](const QString& name) {
-            m_store.renameScale(paletteId, scaleId, name);
+        tr("Scale Name"), renamed->name(),
+        [this, paletteId, scaleId, before = renamed->name()](const QString& name) {
+            const auto present = scale(paletteId, scaleId);
+            if (present && isRename(before, present->name(), name))
+                m_store.renameScale(paletteId, scaleId, name);
         });
 }
 
@@ -352,10 +365,15 @@ std::unique_ptr<SwatchEdit> PalettesModel::makeSwatchEdit(const SwatchPath& path
     const auto edited = swatch(path);
     if (!edited)
         return nullptr;
-    return std::make_unique<SwatchEdit>(
-        m_defaults, *edited, [this, path](const PaletteSwatch& swatch) {
-            m_store.updateSwatch(path.paletteId, path.scaleId, swatch);
+    const auto merge = std::make_shared<std::optional<SwatchMerge>>();
+    auto edit = std::make_unique<SwatchEdit>(
+        m_defaults, *edited, [this, path, merge](const PaletteSwatch& changed) {
+            if (const auto present = swatch(path))
+                m_store.updateSwatch(path.paletteId, path.scaleId,
+                                     (*merge)->merged(changed, *present));
         });
+    merge->emplace(*edited, edit->builtSwatch());
+    return edit;
 }
 
 } // namespace dropshade

@@ -320,6 +320,66 @@ TEST_F(PalettesWindowModel, WhatIsGoneIsNotEdited) {
     EXPECT_FALSE(m_model.makeSwatchEdit({seaId(), scaleId(0), gone}));
 }
 
+// Editing what another machine changes meanwhile
+
+TEST_F(PalettesWindowModel, AnEditorThatWasOnlyOpenedTakesNoForeignNameBack) {
+    const auto paletteRename = m_model.makePaletteRename(seaId());
+    const auto scaleRename = m_model.makeScaleRename(seaId(), scaleId(0));
+    store().renamePalette(seaId(), QStringLiteral("Ocean"));
+    store().renameScale(seaId(), scaleId(0), QStringLiteral("Abyss"));
+    paletteRename->dismissed();
+    scaleRename->dismissed();
+    EXPECT_EQ(sea().name(), QStringLiteral("Ocean"));
+    EXPECT_EQ(scaleNames(), QStringLiteral("Abyss Shore"));
+}
+
+TEST_F(PalettesWindowModel, ANameThatWasTypedWinsOverAForeignOne) {
+    const auto rename = m_model.makePaletteRename(seaId());
+    rename->setName(QStringLiteral("Lake"));
+    store().renamePalette(seaId(), QStringLiteral("Ocean"));
+    rename->dismissed();
+    EXPECT_EQ(sea().name(), QStringLiteral("Lake"));
+}
+
+TEST_F(PalettesWindowModel, ACancelledEditTakesNoForeignChangeBack) {
+    const PaletteSwatch foreign(swatchId(0, 1), QStringLiteral("#123456"), QStringLiteral("sky"));
+    const auto edit = m_model.makeSwatchEdit(path(0, 1));
+    store().updateSwatch(seaId(), scaleId(0), foreign);
+    edit->cancel();
+    EXPECT_EQ(values(0), QStringLiteral("navy #123456 aqua"));
+    EXPECT_EQ(m_model.swatch(path(0, 1))->label(), QStringLiteral("sky"));
+}
+
+TEST_F(PalettesWindowModel, AnEditWritesOnlyWhatTheUserTouchedOverAForeignChange) {
+    const auto edit = m_model.makeSwatchEdit(path(0, 1));
+    edit->typeLabel(QStringLiteral("s"));
+    EXPECT_EQ(values(0), QStringLiteral("navy #0000ff aqua"));
+    store().updateSwatch(
+        seaId(), scaleId(0),
+        PaletteSwatch(swatchId(0, 1), QStringLiteral("#123456"), QStringLiteral("foreign")));
+    edit->typeLabel(QStringLiteral("sk"));
+    EXPECT_EQ(values(0), QStringLiteral("navy #123456 aqua"));
+    EXPECT_EQ(m_model.swatch(path(0, 1))->label(), QStringLiteral("sk"));
+    edit->typeLabel(QStringLiteral("sky"));
+    EXPECT_EQ(values(0), QStringLiteral("navy #123456 aqua"));
+    edit->pickColor(SRGBColor(1.0, 0.0, 0.0));
+    EXPECT_EQ(values(0), QStringLiteral("navy #ff0000 aqua"));
+    edit->cancel();
+    EXPECT_EQ(values(0), QStringLiteral("navy blue aqua"));
+    EXPECT_FALSE(m_model.swatch(path(0, 1))->label());
+}
+
+TEST_F(PalettesWindowModel, ASwatchDeletedElsewhereIsNotMadeAnewByItsEditor) {
+    const auto edit = m_model.makeSwatchEdit(path(0, 1));
+    store().deleteSwatch(seaId(), scaleId(0), swatchId(0, 1));
+    const ReferenceTime stamp = sea().lastModified();
+    scheduler().advance(1000);
+    edit->typeLabel(QStringLiteral("sky"));
+    edit->cancel();
+    EXPECT_EQ(values(0), QStringLiteral("navy aqua"));
+    EXPECT_EQ(sea().lastModified(), stamp);
+}
+
 // The status bar
 
 TEST_F(PalettesWindowModel, TheStatusBarFollowsAnEditOfItsSwatch) {

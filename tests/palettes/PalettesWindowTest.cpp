@@ -119,6 +119,16 @@ TEST_F(Window, APopoverThatGoesAwayTakesTheName) {
     EXPECT_EQ(scaleNames(), QStringLiteral("Abyss Shore"));
 }
 
+TEST_F(Window, ANameThatIsBeingTypedIsTakenWhenTheProgramEnds) {
+    click(label(0));
+    auto* popover = shown<NamePopover>();
+    ASSERT_TRUE(popover);
+    QTest::keyClicks(popover->findChild<QLineEdit*>(), QStringLiteral("Abyss"));
+    // As quitting does it, before the program saves what waits.
+    QApplication::closeAllWindows();
+    EXPECT_EQ(scaleNames(), QStringLiteral("Abyss Shore"));
+}
+
 TEST_F(Window, EscapeTakesNoName) {
     click(label(0));
     auto* field = shown<NamePopover>()->findChild<QLineEdit*>();
