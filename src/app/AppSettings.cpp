@@ -10,6 +10,16 @@ namespace dropshade {
 namespace {
 
 constexpr std::chrono::milliseconds pinsPersistDelay{250};
+/// After a write that the disk refused.
+constexpr std::chrono::seconds retryDelay{30};
+
+struct PinForm {
+    static auto encoded(const QList<PinnedColor>& pins) { return encodedPins(pins); }
+    static auto decoded(const QByteArray& json) { return decodedPins(json); }
+    static const QUuid& id(const PinnedColor& pin) { return pin->swatchId; }
+    static bool areAlike(const PinnedColor& a, const PinnedColor& b) { return a == b; }
+    static const PinnedColor& winner(const PinnedColor& ours, const PinnedColor&) { return ours; }
+};
 
 QSet<QUuid> swatchIdsOf(const QList<PinnedColor>& pins) {
     QSet<QUuid> ids;
@@ -27,8 +37,8 @@ AppSettings::AppSettings(UserDefaults& defaults, Scheduler& scheduler)
       m_closeConvertDialogOnCopy(dropshade::closeConvertDialogOnCopy(defaults)),
       m_contrastAlgorithm(dropshade::contrastAlgorithm(defaults)),
       m_menuBarIconStyle(dropshade::menuBarIconStyle(defaults)),
-      m_iCloudSyncEnabled(dropshade::iCloudSyncEnabled(defaults)), m_pinnedColors(storedPins()),
-      m_pinnedSwatchIds(swatchIdsOf(m_pinnedColors)) {}
+      m_iCloudSyncEnabled(dropshade::iCloudSyncEnabled(defaults)), m_keptPins(storedPins()),
+      m_pinnedColors(m_keptPins.items), m_pinnedSwatchIds(swatchIdsOf(m_pinnedColors)) {}
 
 AppSettings::~AppSettings() = default;
 
@@ -88,8 +98,7 @@ void AppSettings::reloadFromDefaults() {
         algorithm != m_contrastAlgorithm)
         setContrastAlgorithm(algorithm);
     setMenuBarIconStyle(dropshade::menuBarIconStyle(m_defaults));
-    if (const auto pins = storedPins(); pins != m_pinnedColors)
-        setPinnedColors(pins);
+    reloadPins();
     ++m_remoteChangeTick;
     Q_EMIT remoteChangeTickDidChange();
 }
@@ -163,22 +172,49 @@ void AppSettings::validatePins(const QList<Palette>& palettes) {
 
 void AppSettings::flushPendingPins() {
     m_pendingPinsPersist.reset();
-    if (const auto json = encodedPins(m_pinnedColors))
-        m_defaults.setValue(keys::pinnedColors, *json);
+    const auto ours = encodedPins(m_pinnedColors);
+    if (!ours)
+        return;
+    const auto stored =
+        storedOver<PinForm>(m_keptPins, m_pinnedColors, *ours, m_defaults, keys::pinnedColors);
+    if (!stored) {
+        m_pendingPinsPersist = m_scheduler.after(retryDelay, [this] { flushPendingPins(); });
+        return;
+    }
+    m_keptPins = *stored;
+    if (m_keptPins.items != m_pinnedColors)
+        showPins(m_keptPins.items);
 }
 
-QList<PinnedColor> AppSettings::storedPins() const {
-    const auto json = m_defaults.read<QByteArray>(keys::pinnedColors);
-    return json ? decodedPins(*json).value_or(QList<PinnedColor>()) : QList<PinnedColor>();
+KeptList<PinnedColor> AppSettings::storedPins() const {
+    const QByteArray json = m_defaults.read<QByteArray>(keys::pinnedColors).value_or(QByteArray());
+    return {decodedPins(json).value_or(QList<PinnedColor>()), json};
+}
+
+/// A pin that is not on the disk yet stays: what came has been made without knowing of it.
+void AppSettings::reloadPins() {
+    const auto stored = storedPins();
+    if (stored.json == m_keptPins.json)
+        return;
+    const auto pins = hasPendingPins()
+                          ? mergedLists<PinForm>(m_keptPins.items, m_pinnedColors, stored.items)
+                          : stored.items;
+    m_keptPins = stored;
+    if (pins != m_pinnedColors)
+        setPinnedColors(pins);
 }
 
 void AppSettings::setPinnedColors(const QList<PinnedColor>& pins) {
+    schedulePinsPersist();
+    showPins(pins);
+}
+
+void AppSettings::showPins(const QList<PinnedColor>& pins) {
     m_pinnedColors = pins;
     QSet<QUuid> ids = swatchIdsOf(pins);
     const bool differ = ids != m_pinnedSwatchIds;
     if (differ)
         m_pinnedSwatchIds = std::move(ids);
-    schedulePinsPersist();
     Q_EMIT pinnedColorsDidChange();
     if (differ)
         Q_EMIT pinnedSwatchIdsDidChange();

@@ -6,6 +6,7 @@
 #include "app/PinnedColor.h"
 #include "app/SwatchSize.h"
 #include "contrast/ContrastAlgorithm.h"
+#include "palettes/KeptList.h"
 #include "platform/Scheduler.h"
 #include "platform/UserDefaults.h"
 
@@ -75,7 +76,8 @@ public:
 
     /// Whether a write of the pins waits.
     bool hasPendingPins() const { return m_pendingPinsPersist != nullptr; }
-    /// Writes the pins now, also where nothing waits.
+    /// Writes the pins now, also where nothing waits, together with what another process has made
+    /// of them since the last time. What the disk refuses is tried again, for as long as it takes.
     void flushPendingPins();
 
 Q_SIGNALS:
@@ -95,8 +97,11 @@ private:
     using PinUpdate = std::function<void(PinRecord&)>;
     using PinTest = std::function<bool(const PinRecord&)>;
 
-    [[nodiscard]] QList<PinnedColor> storedPins() const;
+    [[nodiscard]] KeptList<PinnedColor> storedPins() const;
+    void reloadPins();
     void setPinnedColors(const QList<PinnedColor>& pins);
+    /// The same with no write to follow.
+    void showPins(const QList<PinnedColor>& pins);
     void removePins(const PinTest& isGone);
     void updatePins(const PinUpdate& update);
     void schedulePinsPersist();
@@ -109,6 +114,8 @@ private:
     ContrastAlgorithm m_contrastAlgorithm;
     MenuBarIconStyle m_menuBarIconStyle;
     bool m_iCloudSyncEnabled;
+    /// The pins as the disk had them when they were last read or written.
+    KeptList<PinnedColor> m_keptPins;
     QList<PinnedColor> m_pinnedColors;
     QSet<QUuid> m_pinnedSwatchIds;
     std::unique_ptr<ScheduledWork> m_pendingPinsPersist;

@@ -18,6 +18,21 @@ namespace dropshade {
 namespace {
 
 constexpr std::chrono::milliseconds saveDelay{250};
+/// After a save that the disk refused.
+constexpr std::chrono::seconds retryDelay{30};
+
+struct PaletteForm {
+    static auto encoded(const QList<Palette>& palettes) { return encodedPalettes(palettes); }
+    /// A palette that lacks its moment was modified before all others.
+    static auto decoded(const QByteArray& json) { return decodedPalettes(json, {}); }
+    static const QUuid& id(const Palette& palette) { return palette.id(); }
+    static bool areAlike(const Palette& a, const Palette& b) {
+        return a.lastModified() == b.lastModified();
+    }
+    static const Palette& winner(const Palette& ours, const Palette& theirs) {
+        return theirs.lastModified() > ours.lastModified() ? theirs : ours;
+    }
+};
 
 /// All of the items in the order of `ids`, or nothing where that leaves one out or has one twice.
 template <typename Item>
@@ -95,6 +110,7 @@ UserPaletteStore::UserPaletteStore(UserDefaults& defaults, Scheduler& scheduler,
         return;
     }
     m_palettes = *stored;
+    m_kept = {*stored, *json};
     // Where the key has never been written, the program has just learnt to collapse.
     if (!m_defaults.contains(keys::collapsedPaletteIds))
         collapseAll();
@@ -105,6 +121,9 @@ UserPaletteStore::~UserPaletteStore() = default;
 void UserPaletteStore::seed(PalettePresets& presets) {
     for (const Palette& preset : presets.defaults())
         m_palettes.append(preset.freshCopy(m_scheduler.now()));
+    // Should there be palettes after all, which merely couldn't be read just now, the first save
+    // finds them and drops these.
+    m_kept.items = m_palettes;
     collapseAll();
     scheduleSave(PinValidation::Wanted);
 }
@@ -353,11 +372,22 @@ void UserPaletteStore::scheduleSave(PinValidation pins) {
 
 void UserPaletteStore::flushPendingSave() {
     m_pendingSave.reset();
-    if (std::exchange(m_isPinValidationPending, false))
+    const auto ours = encodedPalettes(m_palettes);
+    if (!ours)
+        return;
+    const auto stored =
+        storedOver<PaletteForm>(m_kept, m_palettes, *ours, m_defaults, keys::userPalettes);
+    if (!stored) {
+        m_pendingSave = m_scheduler.after(retryDelay, [this] { flushPendingSave(); });
+        return;
+    }
+    m_kept = *stored;
+    const bool isOther = m_kept.json != *ours;
+    if (isOther)
+        setPalettes(m_kept.items);
+    if (std::exchange(m_isPinValidationPending, false) || isOther)
         m_settings.validatePins(m_palettes);
-    const auto json = encodedPalettes(m_palettes);
-    if (json && m_defaults.setValue(keys::userPalettes, *json))
-        Q_EMIT didChange();
+    Q_EMIT didChange();
 }
 
 QSet<QUuid> UserPaletteStore::collapsedPaletteIds() const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/AppSettings.h"
+#include "palettes/KeptList.h"
 #include "palettes/Palette.h"
 #include "palettes/PalettePresets.h"
 #include "platform/Scheduler.h"
@@ -86,7 +87,10 @@ public:
     /// next save brings the favourites in line with the palettes first.
     void scheduleSave(PinValidation pins = PinValidation::Skipped);
     [[nodiscard]] bool hasPendingSave() const { return m_pendingSave != nullptr; }
-    /// Saves now, also where nothing waits. A list that has no form in JSON is not written.
+    /// Saves now, also where nothing waits. What another process has stored since the last save is
+    /// taken over with it: of a palette that both have changed, the copy modified later. A list
+    /// that has no form in JSON is not written; what the disk refuses is tried again, for as long
+    /// as it takes.
     void flushPendingSave();
 
     /// The palettes that show their header only; may hold ids of palettes that are gone.
@@ -115,6 +119,8 @@ private:
     Scheduler& m_scheduler;
     AppSettings& m_settings;
     QList<Palette> m_palettes;
+    /// As the disk had them when they were last read or written; the seed where it had none.
+    KeptList<Palette> m_kept;
     std::unique_ptr<ScheduledWork> m_pendingSave;
     bool m_isPinValidationPending = false;
 };

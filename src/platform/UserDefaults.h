@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 #include <variant>
 
@@ -34,6 +35,14 @@ public:
 
     /// Makes `key` unset and announces it; the result is as for `setValue`.
     virtual bool remove(const QString& key) = 0;
+
+    /// Gives the value to store in place of the present one, or of nothing. May be asked twice.
+    using Change = std::function<DefaultsValue(const std::optional<DefaultsValue>&)>;
+
+    /// Stores what `change` makes of the value under `key`, with no write of another process in
+    /// between, and announces it. False when the disk refused to be read or written; then nothing
+    /// has changed, for this process neither.
+    virtual bool update(const QString& key, const Change& change) = 0;
 
     /// Every key that is set, in no order.
     [[nodiscard]] virtual QStringList keys() const = 0;

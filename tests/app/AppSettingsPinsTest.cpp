@@ -219,6 +219,41 @@ TEST_F(Favourites, AreKeptByAFlushWithinTheQuarterSecond) {
     EXPECT_EQ(restarted.pinnedColors(), m_settings.pinnedColors());
 }
 
+TEST_F(Favourites, NotWrittenYetOutliveAReloadOfTheSettings) {
+    pin(m_sea, 0, 1);
+    m_settings.reloadFromDefaults();
+    EXPECT_EQ(m_settings.pinnedColors().size(), 4);
+    m_scheduler.advance(250);
+    EXPECT_EQ(stored()->size(), 4);
+}
+
+TEST_F(Favourites, NotWrittenYetJoinThoseThatCome) {
+    QList<PinnedColor> foreign = m_settings.pinnedColors();
+    foreign.removeFirst();
+    pin(m_sea, 0, 1);
+    m_defaults.setFromAnotherProcess(keys::pinnedColors, *encodedPins(foreign));
+    const PinnedColor own = m_settings.pinnedColors().last();
+    m_settings.reloadFromDefaults();
+    EXPECT_EQ(m_settings.pinnedColors(), foreign + QList{own});
+    m_scheduler.advance(250);
+    EXPECT_EQ(stored(), foreign + QList{own});
+    m_defaults.setFromAnotherProcess(keys::pinnedColors, *encodedPins(foreign));
+    m_settings.reloadFromDefaults();
+    EXPECT_EQ(m_settings.pinnedColors(), foreign);
+}
+
+TEST_F(Favourites, ThatTheDiskRefusedAreTriedAgain) {
+    m_defaults.setRefusing(true);
+    pin(m_sea, 0, 1);
+    m_scheduler.advance(60'000);
+    EXPECT_EQ(stored()->size(), 3);
+    m_settings.reloadFromDefaults();
+    m_defaults.setRefusing(false);
+    m_scheduler.advance(30'000);
+    EXPECT_EQ(stored()->size(), 4);
+    EXPECT_FALSE(m_settings.hasPendingPins());
+}
+
 TEST_F(Favourites, LeaveNoWorkBehindWhenTheyEnd) {
     {
         AppSettings settings(m_defaults, m_scheduler);

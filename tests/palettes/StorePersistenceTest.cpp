@@ -89,6 +89,20 @@ TEST_F(PaletteStore, AnnouncesNoSaveThatTheDiskRefused) {
     EXPECT_EQ(m_saves, 1);
 }
 
+TEST_F(PaletteStore, TriesAgainWhatTheDiskRefused) {
+    defaults().setRefusing(true);
+    store().renamePalette(seaId(), QStringLiteral("New"));
+    scheduler().advance(250);
+    EXPECT_TRUE(store().hasPendingSave());
+    scheduler().advance(60'000);
+    EXPECT_EQ(stored()->first().name(), QStringLiteral("Sea"));
+    defaults().setRefusing(false);
+    scheduler().advance(30'000);
+    EXPECT_EQ(stored()->first().name(), QStringLiteral("New"));
+    EXPECT_EQ(m_saves, 1);
+    EXPECT_FALSE(store().hasPendingSave());
+}
+
 TEST_F(PaletteStore, ValidatesPinsAtTheSaveOnceThatIsWanted) {
     pinEverything();
     store().setPalettes({m_land});

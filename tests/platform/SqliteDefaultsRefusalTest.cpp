@@ -245,6 +245,31 @@ TEST_F(SqliteDefaultsRefusal, ByAnotherProcesssLockComesSoonAndLosesNothing) {
     EXPECT_THAT(SqliteDefaults(m_path).keys(), UnorderedElementsAre(oldKey, newKey, nextKey));
 }
 
+TEST_F(SqliteDefaultsRefusal, OfAnUpdateChangesNothingHereNorThere) {
+    SqliteDefaults store(m_path);
+    ASSERT_TRUE(store.setValue(oldKey, qint64(1)));
+    const auto two = [](const std::optional<DefaultsValue>&) { return DefaultsValue(qint64(2)); };
+    QStringList announced;
+    QObject::connect(&store, &UserDefaults::didChange,
+                     [&](const QString& key) { announced.append(key); });
+    {
+        const FileSizeLimit limit(0);
+        EXPECT_FALSE(store.update(oldKey, two));
+        EXPECT_EQ(store.value(oldKey), DefaultsValue(qint64(1)));
+        EXPECT_FALSE(store.setValue(oldKey, qint64(3)));
+        EXPECT_FALSE(store.setValue(newKey, true));
+    }
+    EXPECT_EQ(announced, (QStringList{oldKey, newKey}));
+    // What was refused before goes along, and counts as what is there.
+    const auto next = [](const std::optional<DefaultsValue>& value) {
+        return DefaultsValue(std::get<qint64>(*value) + 1);
+    };
+    EXPECT_TRUE(store.update(oldKey, next));
+    const SqliteDefaults other(m_path);
+    EXPECT_EQ(other.value(oldKey), DefaultsValue(qint64(4)));
+    EXPECT_TRUE(other.contains(newKey));
+}
+
 TEST_F(SqliteDefaultsRefusal, ByALockOnTheWholeFileDelaysOnlyTheFirstRead) {
     ASSERT_TRUE(SqliteDefaults(m_path).setValue(oldKey, true));
     auto other = std::make_unique<SqliteDatabase>(QFile::encodeName(m_path),

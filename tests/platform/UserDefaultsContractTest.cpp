@@ -171,6 +171,18 @@ TYPED_TEST(UserDefaultsContract, SeesAnotherProcesssWritesAtTheNextReadAndAnnoun
     EXPECT_TRUE(this->m_announced.isEmpty());
 }
 
+TYPED_TEST(UserDefaultsContract, UpdatesWhatAnotherProcessWroteLastAndAnnouncesIt) {
+    const auto longer = [](const std::optional<DefaultsValue>& value) {
+        return DefaultsValue(value ? std::get<QString>(*value) + u'x' : QStringLiteral("-"));
+    };
+    EXPECT_TRUE(this->store().update(this->m_key, longer));
+    EXPECT_EQ(this->store().value(this->m_key), DefaultsValue(QStringLiteral("-")));
+    this->m_kind.writeElsewhere(this->m_key, QStringLiteral("other"));
+    EXPECT_TRUE(this->store().update(this->m_key, longer));
+    EXPECT_EQ(this->store().value(this->m_key), DefaultsValue(QStringLiteral("otherx")));
+    EXPECT_EQ(this->m_announced, QStringList(2, this->m_key));
+}
+
 TEST(SqliteDefaultsContents, OutliveTheObject) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("defaults.sqlite"));

@@ -26,6 +26,10 @@ public:
         return announce(key);
     }
 
+    bool update(const QString& key, const Change& change) override {
+        return !m_refusing && setValue(key, change(value(key)));
+    }
+
     [[nodiscard]] QStringList keys() const override {
         QStringList all;
         for (const auto& [key, value] : m_values) {

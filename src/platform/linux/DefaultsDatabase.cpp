@@ -22,8 +22,14 @@ constexpr std::string_view upsert =
     "ON CONFLICT(key) DO UPDATE SET type = excluded.type, value = excluded.value";
 constexpr std::string_view deleteKey = "DELETE FROM defaults WHERE key = ?1";
 
-int change(SqliteDatabase& database, const QString& key,
-           const std::optional<DefaultsValue>& value) {
+int read(SqliteDatabase& database, const QString& key, std::optional<DefaultsValue>& value) {
+    value.reset();
+    return forEachRow(
+        database, selectValue, [&](sqlite3_stmt* statement) { return bindText(statement, 1, key); },
+        [&](sqlite3_stmt* statement) { value = valueIn(statement, 0); });
+}
+
+int store(SqliteDatabase& database, const QString& key, const std::optional<DefaultsValue>& value) {
     const auto bind = [&](sqlite3_stmt* statement) {
         const int result = bindText(statement, 1, key);
         return result == SQLITE_OK && value ? bindValue(statement, 2, *value) : result;
@@ -37,12 +43,7 @@ DefaultsDatabase::DefaultsDatabase(const QString& path) : m_database(path, form)
 
 std::optional<DefaultsValue> DefaultsDatabase::value(const QString& key) {
     std::optional<DefaultsValue> found;
-    m_database.read([&](SqliteDatabase& database) {
-        return forEachRow(
-            database, selectValue,
-            [&](sqlite3_stmt* statement) { return bindText(statement, 1, key); },
-            [&](sqlite3_stmt* statement) { found = valueIn(statement, 0); });
-    });
+    m_database.read([&](SqliteDatabase& database) { return read(database, key, found); });
     return found;
 }
 
@@ -62,10 +63,19 @@ bool DefaultsDatabase::write(const Changes& changes, Deadline deadline) {
         int result = SQLITE_OK;
         for (const auto& [key, value] : changes) {
             if (result == SQLITE_OK) {
-                result = change(database, key, value);
+                result = store(database, key, value);
             }
         }
         return result;
+    });
+}
+
+bool DefaultsDatabase::update(const QString& key, const UserDefaults::Change& change,
+                              Deadline deadline) {
+    return m_database.write(deadline, [&](SqliteDatabase& database) {
+        std::optional<DefaultsValue> present;
+        const int result = read(database, key, present);
+        return result == SQLITE_OK ? store(database, key, change(present)) : result;
     });
 }
 

@@ -24,6 +24,10 @@ public:
     /// Stores all of the changes and returns true, or stores none.
     [[nodiscard]] bool write(const Changes& changes, Deadline deadline);
 
+    /// Stores what `change` makes of what the disk holds, in one transaction.
+    [[nodiscard]] bool update(const QString& key, const UserDefaults::Change& change,
+                              Deadline deadline);
+
 private:
     KeptDatabase m_database;
 };

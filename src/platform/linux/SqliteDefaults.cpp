@@ -30,6 +30,23 @@ bool SqliteDefaults::remove(const QString& key) {
     return change(key, std::nullopt);
 }
 
+bool SqliteDefaults::update(const QString& key, const Change& change) {
+    const auto deadline = KeptDatabase::deadline();
+    const auto unsaved = m_unsaved.find(key);
+    const auto changed = [&](const std::optional<DefaultsValue>& stored) {
+        return change(unsaved != m_unsaved.end() ? unsaved->second : stored);
+    };
+    if (!m_database->update(key, changed, deadline)) {
+        return false;
+    }
+    m_unsaved.erase(key);
+    if (!m_unsaved.empty() && m_database->write(m_unsaved, deadline)) {
+        m_unsaved.clear();
+    }
+    Q_EMIT didChange(key);
+    return true;
+}
+
 QStringList SqliteDefaults::keys() const {
     QStringList all = m_database->keys();
     for (const auto& [key, value] : m_unsaved) {

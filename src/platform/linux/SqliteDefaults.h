@@ -36,6 +36,7 @@ public:
     [[nodiscard]] std::optional<DefaultsValue> value(const QString& key) const override;
     bool setValue(const QString& key, const DefaultsValue& value) override;
     bool remove(const QString& key) override;
+    bool update(const QString& key, const Change& change) override;
     [[nodiscard]] QStringList keys() const override;
 
     /// `dropshade/defaults.sqlite` in the user's configuration folder.
