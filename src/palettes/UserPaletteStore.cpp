@@ -92,6 +92,23 @@ ReferenceTime momentAfter(ReferenceTime before, ReferenceTime now) {
     return {std::max(before.seconds + step, std::nextafter(before.seconds, never))};
 }
 
+/// Gives the second palette of an id one of its own, and says whether there was one. There should
+/// be none; but sync, which has one place for each id, would take either for the other and drop it.
+bool separateTwins(QList<Palette>& palettes) {
+    QSet<QUuid> taken;
+    bool areSeparated = false;
+    for (Palette& palette : palettes) {
+        if (!taken.contains(palette.id())) {
+            taken.insert(palette.id());
+            continue;
+        }
+        palette =
+            Palette(QUuid::createUuid(), palette.name(), palette.scales(), palette.lastModified());
+        areSeparated = true;
+    }
+    return areSeparated;
+}
+
 /// The name to set, or nothing where a rename to `to` means none.
 std::optional<QString> newName(const QString& present, const QString& to) {
     const QString trimmed = to.trimmed();
@@ -111,6 +128,8 @@ UserPaletteStore::UserPaletteStore(UserDefaults& defaults, Scheduler& scheduler,
     }
     m_palettes = *stored;
     m_kept = {*stored, *json};
+    if (separateTwins(m_palettes))
+        scheduleSave();
     // Where the key has never been written, the program has just learnt to collapse.
     if (!m_defaults.contains(keys::collapsedPaletteIds))
         collapseAll();

@@ -270,6 +270,23 @@ TEST(NewPaletteStore, LeavesAnExistingCollapsedListAlone) {
     }
 }
 
+TEST(NewPaletteStore, KeepsBothOfTwoStoredPalettesWithOneId) {
+    Machine machine;
+    const Palette first = makePalette("first");
+    const Palette second(first.id(), QStringLiteral("second"), {makeScale("s", {"red"})},
+                         first.lastModified());
+    machine.defaults().setValue(keys::userPalettes, *encodedPalettes({first, second}));
+    machine.defaults().setValue(keys::collapsedPaletteIds, QStringList());
+    const QList<Palette> palettes = machine.store().palettes();
+    EXPECT_EQ(namesOf(palettes), QStringLiteral("first,second"));
+    EXPECT_EQ(palettes.first().id(), first.id());
+    EXPECT_NE(palettes.last().id(), first.id());
+    machine.scheduler().advance(250);
+    machine.kill();
+    EXPECT_TRUE(areSame(machine.store().palettes(), palettes));
+    EXPECT_FALSE(machine.store().hasPendingSave());
+}
+
 TEST(NewPaletteStore, IsSeededWithTailwindAloneWithoutTheResource) {
     Machine machine(QStringLiteral(":/none"));
     EXPECT_EQ(namesOf(machine.store().palettes()), QStringLiteral("Tailwind"));
