@@ -119,6 +119,34 @@ TEST_F(FolderTransportTest, AFileThatStaysUnreadableIsPutAsideWhenItsKeyIsWritte
     EXPECT_EQ(contentOf(folder() + QLatin1Char('/') + aside.first()), QByteArray("junk"));
 }
 
+TEST_F(FolderTransportTest, AFileOfAClockThatIsAheadHoldsUpNothing) {
+    FolderMember member(folder(), replica(1));
+    member.write(a, one);
+    ASSERT_TRUE(member.hasSentAll());
+    ASSERT_TRUE(setContent(file(a), "junk"));
+    const utimbuf yearsAhead = {4'000'000'000, 4'000'000'000};
+    ASSERT_EQ(::utime(QFile::encodeName(file(a)).constData(), &yearsAhead), 0);
+    member.write(a, two);
+    member.write(b, true);
+    EXPECT_TRUE(member.hasSentAll());
+    EXPECT_EQ(stored(a), two);
+}
+
+TEST_F(FolderTransportTest, AFileFinishedWithinOneTickOfItsClockIsReadAllTheSame) {
+    FolderMember member(folder(), replica(1));
+    member.write(a, one);
+    ASSERT_TRUE(member.hasSentAll());
+    const QByteArray whole = ReplicaRecord{a, two, ReferenceTime{9e8}}.encoded();
+    const utimbuf tick = {1'700'000'000, 1'700'000'000};
+    // Its room is taken first and its content comes later, with no other sign of a change.
+    ASSERT_TRUE(setContent(file(a), QByteArray(whole.size(), '\0')));
+    ASSERT_EQ(::utime(QFile::encodeName(file(a)).constData(), &tick), 0);
+    QTest::qWait(100); // Long enough for the file to be looked at.
+    ASSERT_TRUE(setContent(file(a), whole));
+    ASSERT_EQ(::utime(QFile::encodeName(file(a)).constData(), &tick), 0);
+    EXPECT_TRUE(member.sees(a, two));
+}
+
 TEST_F(FolderTransportTest, ConflictCopiesOfAnyNameAreMergedAndGo) {
     FolderMember member(folder(), replica(1));
     member.write(a, one);

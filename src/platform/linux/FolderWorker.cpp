@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 
 namespace dropshade {
@@ -41,7 +42,8 @@ QByteArray versionOf(const QByteArray& content) {
 struct FileContent {
     bool isThere = false;
     QByteArray bytes;
-    qint64 age = 0; ///< in seconds since the last change
+    /// In seconds since the last change; below 0 where the clock that told of it is ahead.
+    qint64 age = 0;
 };
 
 /// A file that is too long for a record counts as one without bytes.
@@ -206,13 +208,14 @@ void FolderWorker::readAll() {
         Q_EMIT received(news);
 }
 
-/// Reads a file if it has changed since the last time.
+/// Reads a file if it has changed since the last time. One that couldn't be read then may well have
+/// been finished within the same tick of the file system's clock.
 void FolderWorker::look(const QString& name, QList<RemoteEntry>& news) {
     struct stat found = {};
     if (::stat(QFile::encodeName(pathOf(name)).constData(), &found) != 0)
         return;
     const Known before = m_known.value(name);
-    if (before.inode == found.st_ino && before.size == found.st_size &&
+    if (before.isReadable && before.inode == found.st_ino && before.size == found.st_size &&
         before.changed.tv_sec == found.st_mtim.tv_sec &&
         before.changed.tv_nsec == found.st_mtim.tv_nsec)
         return;
@@ -271,7 +274,7 @@ SendResult FolderWorker::send(const OutgoingEntry& entry) {
     if (record && record->key == entry.key) {
         current = entryOf(*record, versionOf(content.bytes));
     } else if (content.isThere) {
-        if (content.age < patienceSeconds)
+        if (std::abs(content.age) < patienceSeconds)
             return {Outcome::Failed, current};
         const QString aside =
             path + QStringLiteral(".unreadable-%1").arg(QDateTime::currentMSecsSinceEpoch());
