@@ -336,7 +336,11 @@ TEST_F(ReplicatedKeyValueStoreTest, ACopyIsMergedKeptAndThenDiscarded) {
     here.write(a, one);
     here.pump();
     here.resolve = [](const CloudConflict& conflict) { return conflict.theirs; };
+    QStringList discardedBefore;
+    QObject::connect(here.store.get(), &CloudKeyValueStore::didChangeExternally,
+                     [&] { discardedBefore = here.transport->discarded; });
     Q_EMIT here.transport->foundCopy({a, two, {}, {}}, QStringLiteral("a (copy)"));
+    EXPECT_TRUE(discardedBefore.isEmpty()) << "who hears of it has not kept it yet";
     EXPECT_EQ(here.store->value(a), two);
     EXPECT_EQ(here.announced, QStringList{a});
     EXPECT_EQ(here.transport->discarded, QStringList{QStringLiteral("a (copy)")});

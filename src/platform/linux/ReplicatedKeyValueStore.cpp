@@ -425,10 +425,12 @@ void ReplicatedKeyValueStore::takeCopy(const RemoteEntry& entry, const QString& 
         m_uncommitted.insert_or_assign(entry.key, ours);
         m_unannounced.append(entry.key);
     }
-    // Kept here for good, the copy has had its day.
-    if (commit())
-        m_transport->discardCopy(name);
+    // Kept here for good, also by those who hear of it now, the copy has had its day: of a replica
+    // a power cut may take the end.
+    const bool isKept = commit();
     announce();
+    if (isKept && m_transport)
+        m_transport->discardCopy(name);
     sendUnsent();
 }
 
