@@ -249,11 +249,15 @@ void CloudSyncEngine::pullPalettes() {
 
     QList<Palette> merged;
     for (const MergedPalette& entry : mergedPalettes(sides)) {
-        const auto palette = entry.side == PaletteSide::Remote
-                                 ? m_cloudPalettes.palette(entry.stamp.id)
-                                 : std::optional(*localById.constFind(entry.stamp.id));
-        if (palette)
-            merged.append(*palette);
+        const auto ours = localById.constFind(entry.stamp.id);
+        const auto theirs = entry.side == PaletteSide::Remote
+                                ? m_cloudPalettes.palette(entry.stamp.id)
+                                : std::nullopt;
+        // A disk that fails now and then must not cost the copy that is here.
+        if (theirs)
+            merged.append(*theirs);
+        else if (ours != localById.cend())
+            merged.append(*ours);
     }
     m_cloudPalettes.forgetDecoded();
     if (stampsOf(merged) != sides.local) {

@@ -19,7 +19,7 @@ public:
     }
 
     [[nodiscard]] std::optional<CloudValue> value(const QString& key) const override {
-        const auto found = values.find(key);
+        const auto found = isFailing ? values.end() : values.find(key);
         return found == values.end() ? std::nullopt : std::optional(found->second);
     }
     void setValue(const QString& key, const CloudValue& value) override {
@@ -54,6 +54,8 @@ public:
     std::map<QString, CloudValue> values;
     ConflictRule rule;
     bool isOpen = false;
+    /// No single value can be read.
+    bool isFailing = false;
     int closeCount = 0;
     /// What this machine wrote, in order; a test may clear the lists.
     QStringList written;

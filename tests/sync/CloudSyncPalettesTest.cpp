@@ -272,6 +272,18 @@ TEST_F(CloudSyncPalettes, AnEditGoesUpThoughWhatItEditsIsOfAClockYearsAhead) {
     EXPECT_EQ(store().palettes().first().name(), QStringLiteral("now"));
 }
 
+TEST_F(CloudSyncPalettes, AValueThatFailsToBeReadCostsNoPalette) {
+    putRemote(numberedPalette(1, 20.0, "later"));
+    engine().start();
+    setLocal({numberedPalette(1, 10.0, "earlier"), numberedPalette(2, 10.0)});
+    m_cloud.isFailing = true;
+    announcePalettes();
+    EXPECT_EQ(local(), (QList{1, 2}));
+    m_cloud.isFailing = false;
+    announcePalettes();
+    EXPECT_EQ(store().palettes().first().name(), QStringLiteral("later"));
+}
+
 TEST_F(CloudSyncPalettes, ARepeatedTombstoneEndsTheProcess) {
     putTombstones({{numberedId(1), ReferenceTime{start}}, {numberedId(1), ReferenceTime{start}}});
     EXPECT_DEATH(engine().start(), "Duplicate values for key: '");
