@@ -225,11 +225,16 @@ void CloudSyncEngine::buryDeleted(const QList<Palette>& palettes) {
     for (auto known = m_lastBaseline.cbegin(); known != m_lastBaseline.cend(); ++known) {
         if (present.contains(known.key()))
             continue;
-        const bool isBuried =
-            std::any_of(tombstones.cbegin(), tombstones.cend(),
-                        [&](const Tombstone& tombstone) { return tombstone.id == known.key(); });
-        if (!isBuried)
-            tombstones.append({known.key(), m_scheduler.now()});
+        // No earlier than what it deletes, or a palette of a clock that is ahead would come back.
+        const ReferenceTime deletedAt = std::max(m_scheduler.now(), known.value());
+        const auto buried =
+            std::find_if(tombstones.begin(), tombstones.end(),
+                         [&](const Tombstone& tombstone) { return tombstone.id == known.key(); });
+        if (buried == tombstones.end())
+            tombstones.append({known.key(), deletedAt});
+        else if (buried->deletedAt < known.value())
+            // An edit elsewhere had outlived that deletion; this one is made in view of it.
+            buried->deletedAt = deletedAt;
         m_cloudPalettes.remove(known.key());
     }
     m_cloudPalettes.saveTombstones(tombstones);

@@ -117,6 +117,30 @@ TEST_F(CloudSyncPalettes, ADeletionSeenTwiceIsBuriedOnce) {
     EXPECT_FALSE(remote(1));
 }
 
+TEST_F(CloudSyncPalettes, WhatIsOfAClockYearsAheadCanBeDeleted) {
+    putRemote(numberedPalette(1, start + 1e8));
+    engine().start();
+    store().deletePalette(numberedId(1));
+    scheduler().advance(750);
+    // Another machine, which had not heard of it, offers its copy once more.
+    putRemote(numberedPalette(1, start + 1e8));
+    announcePalettes();
+    EXPECT_TRUE(local().isEmpty());
+}
+
+TEST_F(CloudSyncPalettes, WhatOutlivedADeletionCanBeDeletedOnceMore) {
+    putTombstones({{numberedId(1), ReferenceTime{start - 20.0}}});
+    putRemote(numberedPalette(1, start - 10.0));
+    engine().start();
+    ASSERT_EQ(local(), QList{1});
+    store().deletePalette(numberedId(1));
+    scheduler().advance(750);
+    EXPECT_EQ(tombstones(), (QList<Tombstone>{{numberedId(1), ReferenceTime{start + 0.75}}}));
+    putRemote(numberedPalette(1, start - 10.0));
+    announcePalettes();
+    EXPECT_TRUE(local().isEmpty());
+}
+
 TEST_F(CloudSyncPalettes, ATombstoneOfTheSameMomentDeletesAndALaterEditSurvives) {
     setLocal({numberedPalette(1, start - 50.0), numberedPalette(2, start - 40.0)});
     putTombstones({{numberedId(1), ReferenceTime{start - 50.0}},
