@@ -251,9 +251,9 @@ class ContrastWindow(WindowCase):
         self.desktop.click(20, 700)
         self.wait_for_window(CONTRAST)
         self.click_in(CONTRAST, 200, self.FOREGROUND)
-        self.settle()
+        self.desktop.wait_until_still()
         self.click_in(CONTRAST, 200, self.BACKGROUND)
-        self.settle()
+        self.desktop.wait_until_still()
         self.assertEqual(self.copied_from(self.FOREGROUND), "#D4D4D4")
 
     def test_the_window_follows_the_desktops_scheme_while_it_is_open(self):
