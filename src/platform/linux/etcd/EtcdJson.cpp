@@ -4,6 +4,8 @@
 
 #include "json/JsonDocument.h"
 
+#include <algorithm>
+
 namespace dropshade {
 namespace {
 
@@ -140,12 +142,15 @@ EtcdTransaction readTransaction(JsonReader& json) {
     return transaction;
 }
 
+/// No error's number is near it, and an int holds it.
+constexpr double mostCode = 1e6;
+
 EtcdError readError(JsonReader& json) {
     EtcdError error;
     json.object([&](std::string_view key) {
         // A stream that breaks off has a "grpc_code" and an "http_code" instead.
         if (key == "code" || key == "grpc_code")
-            error.code = int(json.number());
+            error.code = int(std::clamp(json.number(), 0.0, mostCode));
         else if (key == "message")
             error.message = json.string();
         else
