@@ -20,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const qsizetype firstCapacity = std::max<qsizetype>(8 * (stored.size() - 1), 1024);
     require(*plain == stored || plain->size() < 64 * firstCapacity, "no more than the capacity");
     if (!plain->isEmpty() && plain->front() != '\x01')
-        require(decompressedValue(compressedValue(*plain)) == plain, "a value comes back");
+        require(decompressedValue(sharedValue(*plain)) == plain, "a value comes back");
     const auto tombstones = decodedTombstones(*plain);
     if (!tombstones)
         return 0;

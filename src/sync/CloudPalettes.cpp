@@ -98,7 +98,7 @@ void CloudPalettes::save(const Palette& palette) {
     const auto json = encodedPalette(palette);
     if (!json)
         return;
-    const QByteArray value = compressedValue(*json);
+    const QByteArray value = sharedValue(*json);
     if (value.size() < palettesTooLarge)
         m_store.setValue(cloudKeys::palette(palette.id()), value);
 }

@@ -149,7 +149,7 @@ void CloudSyncEngine::pushValue(const SyncedKey& row) {
     const auto local = m_defaults.read<QByteArray>(row.defaultsKey);
     if (!local)
         return;
-    const QByteArray compressed = compressedValue(*local);
+    const QByteArray compressed = sharedValue(*local);
     if (m_kvs.read<QByteArray>(row.kvsKey) != compressed)
         m_kvs.setValue(row.kvsKey, compressed);
 }

@@ -52,6 +52,12 @@ QByteArray compressedValue(const QByteArray& plain) {
     return frame;
 }
 
+QByteArray sharedValue(const QByteArray& plain) {
+    QByteArray frame = compressedValue(plain);
+    const qsizetype payload = frame.size() - markSize;
+    return plain.size() < std::max(mostPerByte * payload, leastMost) ? frame : plain;
+}
+
 std::optional<QByteArray> decompressedValue(const QByteArray& stored) {
     if (stored.size() <= markSize || stored.front() != frameMark)
         return stored;

@@ -19,4 +19,8 @@ namespace dropshade {
 /// each of its own, and 65,536 at least, less one.
 [[nodiscard]] std::optional<QByteArray> decompressedValue(const QByteArray& stored);
 
+/// What a machine gives to the others for `plain`: its frame, or `plain` itself where that is so
+/// monotonous that nobody would take the frame for a fair one.
+[[nodiscard]] QByteArray sharedValue(const QByteArray& plain);
+
 } // namespace dropshade

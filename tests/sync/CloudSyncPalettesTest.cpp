@@ -212,6 +212,14 @@ TEST_F(CloudSyncPalettes, APaletteOf900000BytesStaysHereAndOneByteLessGoesUp) {
     EXPECT_EQ(tombstones().size(), 1);
 }
 
+TEST_F(CloudSyncPalettes, APaletteWithAMonotonousNameOfHalfAMegabyteArrives) {
+    const QString name(600'000, u'a');
+    setLocal({Palette(numberedId(1), name, {}, ReferenceTime{5.0})});
+    engine().start();
+    ASSERT_TRUE(remote(1));
+    EXPECT_EQ(remote(1)->name(), name);
+}
+
 TEST_F(CloudSyncPalettes, APullWithoutADifferenceNeitherSavesNorAnnounces) {
     setLocal({numberedPalette(1, 5.0)});
     engine().start();
