@@ -28,7 +28,9 @@ add_compile_definitions(
     _GLIBCXX_ASSERTIONS)
 
 if(DROPSHADE_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # -g1: what a report shows, and no more to write and link.
+    add_compile_options(
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
     add_link_options(-fsanitize=address,undefined)
 endif()
 if(DROPSHADE_FUZZ)
