@@ -5,6 +5,7 @@
 import pathlib
 import subprocess
 import tempfile
+import time
 import unittest
 
 from dropshade_case import PROGRAM, RunningProgram, wait_until
@@ -15,6 +16,7 @@ PANEL = str(FOLDER / "status_notifier_host.py")
 BACKEND = str(FOLDER / "portal_backend.py")
 PORTAL = "/usr/libexec/xdg-desktop-portal"
 MENU = "Dropshade"
+CLOSING_CLICK = 0.3
 
 
 class WaylandCase(RunningProgram, unittest.TestCase):
@@ -71,6 +73,8 @@ class WaylandCase(RunningProgram, unittest.TestCase):
 
     def open_menu(self):
         """The area of the status menu, opened by a click on the icon."""
+        # So soon after the menu closed, a click would count as the one that closed it.
+        time.sleep(CLOSING_CLICK)
         self.click_icon()
         return self.desktop.wait_for_window(MENU)
 
