@@ -157,7 +157,7 @@ void PreviewStrip::paintEvent(QPaintEvent*) {
     const double reach = ringGap + metrics::lineSelected;
     for (int index = 0; index < m_count; ++index) {
         const StripSwatch* swatch = m_swatches[index];
-        if (swatch->ringOpacity() <= 0.0 || swatch->hasFocus())
+        if (swatch->ringOpacity() <= 0.0)
             continue;
         QColor ink = theme.textPrimary;
         ink.setAlphaF(static_cast<float>(swatch->ringOpacity()));

@@ -7,6 +7,8 @@
 
 #include <QKeyEvent>
 
+#include <utility>
+
 namespace dropshade {
 
 StripSwatch::StripSwatch(const Look& look, const NameOf& nameOf, QWidget* parent)
@@ -47,8 +49,10 @@ void StripSwatch::keyPressEvent(QKeyEvent* event) {
 }
 
 void StripSwatch::paint(QPainter& painter) {
-    // The ring lies outside, on the strip; each step of its appearance passes here.
-    parentWidget()->update();
+    // The ring lies outside, on the strip; each step of its appearance passes here. Nothing else
+    // may have the strip drawn, which draws its swatches, too.
+    if (std::exchange(m_ringDrawn, ringOpacity()) != ringOpacity())
+        parentWidget()->update();
     QRectF area = rect();
     if (isPressed()) {
         const double inset = area.height() * (1.0 - metrics::swatchPressedScale) / 2.0;

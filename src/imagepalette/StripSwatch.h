@@ -20,8 +20,8 @@ public:
 
     void setColor(const QuantizedColor& color);
     [[nodiscard]] const QuantizedColor& color() const { return m_color; }
-    /// How much of the ring around it is seen, from 0 to 1.
-    [[nodiscard]] double ringOpacity() const { return hoverAmount(); }
+    /// How much of the ring around it is seen, from 0 to 1. The focus has a ring of its own.
+    [[nodiscard]] double ringOpacity() const { return hasFocus() ? 0.0 : hoverAmount(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -31,6 +31,7 @@ protected:
 private:
     const NameOf& m_nameOf;
     QuantizedColor m_color;
+    double m_ringDrawn = 0.0;
 };
 
 } // namespace dropshade

@@ -287,6 +287,38 @@ TEST_F(NewPaletteFromImageSheet, TheStripGrowsToTwoRowsFromThirteenColorsOn) {
     }
 }
 
+/// Counts how often a widget is drawn.
+class PaintCounter : public QObject {
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+TEST_F(NewPaletteFromImageSheet, ColorsAreDrawnForTheirRingAndThenNoMore) {
+    present(photo());
+    finish();
+    StripSwatch* swatch = shownSwatches().first();
+    PaintCounter paints;
+    const auto comesToRest = [&] {
+        return QTest::qWaitFor([&] {
+            paints.count = 0;
+            QTest::qWait(100);
+            return paints.count == 0;
+        });
+    };
+    swatch->parentWidget()->installEventFilter(&paints);
+    EXPECT_TRUE(comesToRest());
+    QHoverEvent hover(QEvent::HoverEnter, QPointF(2, 2), QPointF(2, 2), QPointF(-1, -1));
+    QCoreApplication::sendEvent(swatch, &hover);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return swatch->ringOpacity() == 1.0 && paints.count > 0; }));
+    EXPECT_TRUE(comesToRest());
+}
+
 TEST_F(NewPaletteFromImageSheet, AClickOnAColorCopiesItAndItsToolTipIsInTheUsersFormat) {
     QImage red(1, 1, QImage::Format_RGB32);
     red.fill(Qt::red);
