@@ -34,7 +34,8 @@ class StatusMenu(MenuCase):
 
     def test_it_has_its_own_size_no_frame_the_keyboard_and_the_middle_of_the_screen(self):
         left, top, width, height = self.open_menu()
-        self.assertEqual(self.desktop.window(MENU)["border"], "csd")
+        # Either way the desktop draws no frame: it is ours to draw, or nobody does.
+        self.assertIn(self.desktop.window(MENU)["border"], ("csd", "none"))
         self.assertTrue(250 < width < 400 and 380 < height < 480, f"{width} x {height}")
         self.assertAlmostEqual(left + width / 2, self.desktop.width / 2, delta=1)
         self.assertAlmostEqual(top + height / 2, self.desktop.height / 2, delta=1)
