@@ -29,12 +29,15 @@ CURSOR_NAMES = ("default", "left_ptr", "pointer", "text", "crosshair", "grabbing
 class WaylandDesktop(PrivateSession):
     """`with WaylandDesktop() as desktop:` gives a compositor that is ready for clients. Its size is in
     pixels; places and areas are in its logical pixels, of which there are `scale` times fewer.
-    `more` are further lines of sway's configuration."""
+    `more` are further lines of sway's configuration. What sway has done to its windows shows at once,
+    or with `patience` once all windows concerned have been drawn for it, after so many seconds at the
+    latest; sway by itself has a fifth of a second."""
 
-    def __init__(self, width=1280, height=800, scale=1, layout="us", more=""):
+    def __init__(self, width=1280, height=800, scale=1, layout="us", more="", patience=None):
         super().__init__()
         self.width, self.height, self.scale = round(width / scale), round(height / scale), scale
         self._layout = layout
+        self._showing = "noatomic" if patience is None else f"txn-timeout={patience * 1000}"
         self._configuration = CONFIGURATION.format(width=width, height=height, scale=scale,
                                                    cursors=CURSORS, more=more)
 
@@ -45,7 +48,7 @@ class WaylandDesktop(PrivateSession):
         path = os.path.join(self._folder, "sway.conf")
         with open(path, "w") as file:
             file.write(self._configuration)
-        command = ["sway", "--config", path]
+        command = ["sway", "-D", self._showing, "--config", path]
         if os.geteuid() == 0:
             # It refuses to run as root, and takes the root of another user namespace for a user.
             command = ["unshare", "--user", "--map-user=1000", "--map-group=1000", *command]

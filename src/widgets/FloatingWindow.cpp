@@ -3,6 +3,7 @@
 #include "widgets/FloatingWindow.h"
 
 #include "widgets/AccessibleWindows.h"
+#include "widgets/FocusAnswer.h"
 #include "widgets/FocusRing.h"
 #include "widgets/WindowFrames.h"
 
@@ -35,6 +36,7 @@ FloatingWindow::FloatingWindow(const Look& look)
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       m_look(look) {
     installAccessibleWindows();
+    answerFocusChanges(*this);
     setAttribute(Qt::WA_AlwaysShowToolTips);
     // The paint event fills all of it.
     setAttribute(Qt::WA_OpaquePaintEvent);

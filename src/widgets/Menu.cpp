@@ -3,6 +3,7 @@
 #include "widgets/Menu.h"
 
 #include "widgets/ColorImage.h"
+#include "widgets/FocusAnswer.h"
 #include "widgets/Metrics.h"
 #include "widgets/RoundedMask.h"
 #include "widgets/TypeScale.h"
@@ -125,6 +126,7 @@ void Menu::openAsWindow(const QString& title) {
     for (Menu* submenu : findChildren<Menu*>())
         submenu->setWindowSystemType(Qt::ToolTip);
     new OutsideWatch(*this);
+    answerFocusChanges(*this);
     // Wherever it is, as far as the program knows there is room for submenus beside it.
     popup(room.topLeft());
 }

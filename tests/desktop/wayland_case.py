@@ -25,10 +25,12 @@ class WaylandCase(RunningProgram, unittest.TestCase):
     SCALE = 1
     LAYOUT = "us"
     MORE = ""
+    PATIENCE = None
 
     def setUp(self):
         self.desktop = self.enterContext(
-            WaylandDesktop(1280 * self.SCALE, 800 * self.SCALE, self.SCALE, self.LAYOUT, self.MORE))
+            WaylandDesktop(1280 * self.SCALE, 800 * self.SCALE, self.SCALE, self.LAYOUT, self.MORE,
+                           self.PATIENCE))
         self.hand = self.desktop.hand
         self.prepare_desktop()
         self.start_panel()
@@ -73,10 +75,13 @@ class WaylandCase(RunningProgram, unittest.TestCase):
 
     def open_menu(self):
         """The area of the status menu, opened by a click on the icon."""
+        self.ask_for_menu()
+        return self.desktop.wait_for_window(MENU)
+
+    def ask_for_menu(self):
         # So soon after the menu closed, a click would count as the one that closed it.
         time.sleep(CLOSING_CLICK)
         self.click_icon()
-        return self.desktop.wait_for_window(MENU)
 
     def click_icon(self):
         self.ask_panel("Click", "Activate")

@@ -5,10 +5,11 @@
 import json
 import unittest
 
-from wayland_case import WaylandCase, wait_until
+from wayland_case import MENU, WaylandCase, wait_until
 
 CONVERT, PALETTES, CONTRAST, SETTINGS = ("Color Picker", "Palettes", "Check Contrast",
                                          "Dropshade Settings")
+DELETE = "Delete this color?"
 ROWS = {CONVERT: 2, PALETTES: 3, CONTRAST: 4, SETTINGS: 8}
 GROUND = (0x33, 0x66, 0x99)
 # In the convert window.
@@ -175,6 +176,45 @@ class WaylandWindows(WaylandCase):
         self.hand.key("Down")
         self.hand.key("Return")
         wait_until(lambda: self.setting("copySound") == "ding", "the chosen sound")
+
+
+class PatientDesktop(WaylandCase):
+    """On a desktop that shows a window only when it was drawn with the keyboard it was given."""
+
+    MORE = WaylandWindows.MORE
+    PATIENCE = 60
+
+    def wait_until_shown(self, title):
+        left, top, width, height = wait_until(lambda: self.desktop.area(title), title)
+        middle = round(left + width / 2), round(top + height / 2)
+        wait_until(lambda: self.desktop.pixel(*middle) != GROUND, f"{title} on the screen")
+
+    def test_all_windows_show_at_once(self):
+        for title, row in ROWS.items():
+            with self.subTest(title):
+                self.ask_for_menu()
+                self.wait_until_shown(MENU)
+                for _ in range(row):
+                    self.hand.key("Down")
+                self.hand.key("Return")
+                self.wait_until_shown(title)
+                self.hand.key("Escape")
+                self.wait_for_no_window(title)
+
+    def test_an_alert_shows_at_once_over_its_window(self):
+        self.choose(ROWS[PALETTES])
+        left, top, width, height = self.desktop.wait_for_window(PALETTES)
+        self.click_in(PALETTES, *HEADER)
+        self.desktop.wait_until_still()
+        middle = left + width // 2, top + height // 2, 40, 40
+        before = self.desktop.grab(*middle)
+        self.hand.click(*self.at(PALETTES, *SWATCH), button=3)
+        self.desktop.wait_until_still()
+        self.hand.key("Up")
+        self.hand.key("Return")
+        wait_until(lambda: self.desktop.focused_title() == DELETE, "the alert")
+        wait_until(lambda: self.desktop.grab(*middle) != before, "the alert on the screen")
+        self.save_screenshot("wayland-alert.png")
 
 
 if __name__ == "__main__":
