@@ -61,6 +61,7 @@ void X11HotKeyRegistrar::unregisterHotKey(quint32 id) {
     if (released > 0)
         xcb_ungrab_keyboard(m_connection->get(), XCB_CURRENT_TIME);
     xcb_flush(m_connection->get());
+    readEventsSoon();
 }
 
 bool X11HotKeyRegistrar::openConnection() {
@@ -119,8 +120,7 @@ HotKeyRegistrar::Status X11HotKeyRegistrar::grab(HotKey& hotKey) {
     hotKey.grabbedState = state;
     if (status != Status::Registered)
         ungrab(hotKey);
-    // What came while this waited for answers makes the socket no more readable.
-    QMetaObject::invokeMethod(this, &X11HotKeyRegistrar::readEvents, Qt::QueuedConnection);
+    readEventsSoon();
     return status;
 }
 
@@ -145,6 +145,10 @@ void X11HotKeyRegistrar::regrabIfModifiersMoved() {
         static_cast<void>(grab(hotKey));
 }
 
+void X11HotKeyRegistrar::readEventsSoon() {
+    QMetaObject::invokeMethod(this, &X11HotKeyRegistrar::readEvents, Qt::QueuedConnection);
+}
+
 void X11HotKeyRegistrar::readEvents() {
     bool didKeyboardChange = false;
     while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection->get())}) {
@@ -156,10 +160,12 @@ void X11HotKeyRegistrar::readEvents() {
         else if (type == XCB_MAPPING_NOTIFY || (m_firstXkbEvent != 0 && type == m_firstXkbEvent))
             didKeyboardChange = true;
     }
-    if (xcb_connection_has_error(m_connection->get()))
+    if (xcb_connection_has_error(m_connection->get())) {
         m_notifier->setEnabled(false);
-    else if (didKeyboardChange)
+    } else if (didKeyboardChange) {
         regrabIfModifiersMoved();
+        readEventsSoon();
+    }
 }
 
 void X11HotKeyRegistrar::handlePress(const xcb_key_press_event_t& event) {

@@ -38,6 +38,8 @@ private:
     [[nodiscard]] Status grab(HotKey& hotKey);
     void ungrab(HotKey& hotKey);
     void regrabIfModifiersMoved();
+    /// After any talk with the server: what came in meanwhile makes the socket no more readable.
+    void readEventsSoon();
     void readEvents();
     void handlePress(const xcb_key_press_event_t& event);
     void handleRelease(const xcb_key_release_event_t& event);
