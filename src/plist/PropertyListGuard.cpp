@@ -74,7 +74,8 @@ bool isReasonableBinary(const QByteArray& bytes) {
     if (!objects)
         return false;
     std::vector<std::vector<quint64>> path = {{objects->root()}};
-    quint64 nodes = 0;
+    // Those that still wait in the path as well: they are what takes memory.
+    quint64 nodes = 1;
     quint64 content = 0;
     while (!path.empty()) {
         if (path.back().empty()) {
@@ -84,9 +85,11 @@ bool isReasonableBinary(const QByteArray& bytes) {
         const quint64 object = path.back().back();
         path.back().pop_back();
         auto children = references(*objects, object);
+        if (!children)
+            return false;
+        nodes += children->size();
         content += contentSize(*objects, object);
-        if (!children || ++nodes + children->size() > mostBinaryNodes ||
-            content > mostBinaryContent)
+        if (nodes > mostBinaryNodes || content > mostBinaryContent)
             return false;
         path.push_back(std::move(*children));
         if (path.size() > mostBinaryDepth)
