@@ -19,6 +19,7 @@ from Xlib.ext import xtest
 from private_session import WAIT_SECONDS, PrivateSession, Process, wait_until
 
 LOUPE_RING_RADIUS = 79.75
+TRAY_WIDTH = 48
 
 
 class VirtualDesktop(PrivateSession):
@@ -72,8 +73,9 @@ class VirtualDesktop(PrivateSession):
 
     def start_tray(self):
         """A host of XEmbed icons in the top right corner."""
-        tray = self.start(["trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
-                           "--height", "24", "--expand", "true"])
+        # Of a fixed width: one that follows its icons now and then keeps the width that it had.
+        tray = self.start(["trayer", "--edge", "top", "--align", "right", "--widthtype", "pixel",
+                           "--width", str(TRAY_WIDTH), "--height", "24"])
         wait_until(self.tray_owner, "trayer")
         return tray
 
