@@ -6,6 +6,7 @@
 #include "imagepalette/HevcHeaders.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <utility>
 #include <vector>
@@ -22,6 +23,9 @@ using PixelCount = std::optional<std::uint64_t>;
 constexpr int deepestDerivation = 4;
 // Above every limit that a caller may have.
 constexpr std::uint64_t endlessPixels = std::uint64_t{1} << 48;
+// Boxes in a row; and items with their pieces, properties and references. A camera's file has
+// hundreds.
+constexpr std::size_t mostParts = 50'000;
 
 consteval std::uint32_t code(const char (&name)[5]) {
     std::uint32_t result = 0;
@@ -38,14 +42,17 @@ struct Box {
 /// Boxes that follow each other.
 struct Boxes {
     std::vector<Box> all;
-    /// False where the bytes do not end with a box's end.
+    /// False where the bytes go on after the last of them.
     bool areWhole = true;
 };
 
-/// The boxes up to the first one that is cut short.
+/// The boxes up to the first one that is cut short or one too many.
 Boxes leadingBoxes(Bytes bytes) {
     Boxes boxes;
     while (!bytes.empty()) {
+        boxes.areWhole = boxes.all.size() < mostParts;
+        if (!boxes.areWhole)
+            break;
         ByteReader reader(bytes);
         std::uint64_t size = reader.u32();
         const std::uint32_t type = reader.u32();
@@ -92,6 +99,52 @@ ItemId readId(ByteReader& reader, bool isLong) {
     return isLong ? reader.u32() : reader.u16();
 }
 
+/// Those of the largest picture that the sequence headers in a decoder configuration tell of.
+PixelCount configuredPixels(Bytes configuration) {
+    constexpr std::uint64_t fixedSize = 22;
+    std::uint64_t most = 0;
+    ByteReader reader(configuration);
+    reader.skip(fixedSize);
+    const int arrays = reader.u8();
+    for (int array = 0; array < arrays; ++array) {
+        reader.skip(1);
+        const int units = reader.u16();
+        for (int unit = 0; unit < units && !reader.failed(); ++unit) {
+            const Bytes header = reader.take(reader.u16());
+            if (reader.failed() || !isHevcSequenceHeader(header))
+                continue;
+            const PixelCount pixels = hevcPicturePixels(header);
+            if (!pixels)
+                return std::nullopt;
+            most = std::max(most, *pixels);
+        }
+    }
+    return reader.failed() ? std::nullopt : PixelCount(most);
+}
+
+PixelCount announcedPixels(Bytes sides) {
+    ByteReader reader(sides);
+    versionOf(reader);
+    const std::uint64_t width = reader.u32();
+    const std::uint64_t height = reader.u32();
+    return reader.failed() ? std::nullopt : PixelCount(std::min(width * height, endlessPixels));
+}
+
+/// What an item may have.
+struct Property {
+    std::uint32_t type = 0;
+    /// None where they are cut short; 0 of a property that has none.
+    PixelCount pixels = 0;
+};
+
+Property propertyOf(const Box& box) {
+    if (box.type == code("hvcC"))
+        return {box.type, configuredPixels(box.body)};
+    if (box.type == code("ispe"))
+        return {box.type, announcedPixels(box.body)};
+    return {box.type};
+}
+
 /// The items of a file, as far as the primary image needs them.
 class Items {
 public:
@@ -116,6 +169,9 @@ public:
     PixelCount primaryPixels() { return pixelsOf(m_primary, 0); }
 
 private:
+    /// False once they are too many to be read.
+    bool addPart() { return ++m_parts <= mostParts; }
+
     struct Extent {
         std::uint64_t offset = 0;
         std::uint64_t length = 0;
@@ -143,7 +199,7 @@ private:
     PixelCount pixelsOf(const std::vector<ItemId>& ids, int depth);
     PixelCount derivedPixels(const Item& item, int depth);
     PixelCount codedPixels(const Item& item);
-    PixelCount announcedPixels(const Item& item) const;
+    PixelCount mostPixels(const Item& item, std::uint32_t propertyType) const;
     bool isOnePicture(const std::vector<std::uint8_t>& data) const;
     std::optional<std::vector<std::uint8_t>> dataOf(const Item& item);
 
@@ -151,7 +207,8 @@ private:
     Bytes m_data;
     ItemId m_primary = 0;
     std::map<ItemId, Item> m_items;
-    std::vector<Box> m_properties;
+    std::vector<Property> m_properties;
+    std::size_t m_parts = 0;
     std::map<ItemId, PixelCount> m_known;
     /// Pieces that overlap would make a small file a long read.
     std::uint64_t m_bytesRead = 0;
@@ -194,7 +251,7 @@ bool Items::readLocations(Bytes box) {
     const std::uint32_t count = readId(reader, version > 1);
     for (std::uint32_t at = 0; at < count && !reader.failed(); ++at) {
         Item& item = m_items[readId(reader, version > 1)];
-        if (!item.extents.empty())
+        if (!addPart() || !item.extents.empty())
             return false;
         const int method = version > 0 ? reader.u16() & 0x0F : 0;
         item.isInDataBox = method == 1;
@@ -205,6 +262,8 @@ bool Items::readLocations(Bytes box) {
             sized(indexSize);
             const std::uint64_t offset = base + sized(sizes >> 4);
             const std::uint64_t length = sized(sizes & 0x0F);
+            if (!addPart())
+                return false;
             if (!isElsewhere)
                 item.extents.push_back({offset, length});
         }
@@ -218,7 +277,8 @@ bool Items::readProperties(Bytes box) {
     const auto properties = container ? boxesIn(*container) : std::nullopt;
     if (!properties)
         return false;
-    m_properties = *properties;
+    std::transform(properties->begin(), properties->end(), std::back_inserter(m_properties),
+                   propertyOf);
     return std::all_of(parts->begin(), parts->end(), [this](const Box& part) {
         return part.type != code("ipma") || readAssociations(part.body);
     });
@@ -233,9 +293,12 @@ bool Items::readAssociations(Bytes box) {
     for (std::uint32_t at = 0; at < count && !reader.failed(); ++at) {
         Item& item = m_items[readId(reader, hasLongIds)];
         const int indices = reader.u8();
-        for (int index = 0; index < indices; ++index)
+        for (int index = 0; index < indices; ++index) {
+            if (!addPart())
+                return false;
             item.properties.push_back(hasLongIndices ? reader.u16() & 0x7FFFu
                                                      : reader.u8() & 0x7Fu);
+        }
     }
     return !reader.failed();
 }
@@ -254,6 +317,8 @@ bool Items::readReferences(Bytes box) {
         const ItemId from = readId(reader, hasLongIds);
         const int count = reader.u16();
         for (int at = 0; at < count; ++at) {
+            if (!addPart())
+                return false;
             const ItemId to = readId(reader, hasLongIds);
             if (reference.type == code("dimg"))
                 m_items[from].sources.push_back(to);
@@ -275,7 +340,7 @@ PixelCount Items::pixelsOf(ItemId id, int depth) {
     const Item& item = found->second;
     const bool isCoded = item.type == code("hvc1");
     const PixelCount own = isCoded ? codedPixels(item) : derivedPixels(item, depth);
-    const PixelCount announced = announcedPixels(item);
+    const PixelCount announced = mostPixels(item, code("ispe"));
     const PixelCount auxiliary = pixelsOf(item.auxiliaries, depth);
     PixelCount result;
     if (own && announced && auxiliary)
@@ -325,54 +390,24 @@ PixelCount Items::pixelsOf(const std::vector<ItemId>& ids, int depth) {
 
 /// By the sequence headers among the item's properties, the only place where they may stand.
 PixelCount Items::codedPixels(const Item& item) {
-    constexpr std::uint64_t configurationSize = 22;
-    std::uint64_t most = 0;
-    for (const std::size_t property : item.properties) {
-        if (property == 0 || property > m_properties.size() ||
-            m_properties[property - 1].type != code("hvcC"))
-            continue;
-        const Bytes configuration = m_properties[property - 1].body;
-        ByteReader reader(configuration);
-        reader.skip(configurationSize);
-        const int arrays = reader.u8();
-        for (int array = 0; array < arrays; ++array) {
-            reader.skip(1);
-            const int units = reader.u16();
-            for (int unit = 0; unit < units && !reader.failed(); ++unit) {
-                const std::uint16_t length = reader.u16();
-                const std::size_t start = reader.position();
-                reader.skip(length);
-                if (reader.failed() || !isHevcSequenceHeader(configuration.subspan(start, length)))
-                    continue;
-                const PixelCount pixels = hevcPicturePixels(configuration.subspan(start, length));
-                if (!pixels)
-                    return std::nullopt;
-                most = std::max(most, *pixels);
-            }
-        }
-        if (reader.failed())
-            return std::nullopt;
-    }
-    const auto data = dataOf(item);
-    return most > 0 && data && isOnePicture(*data) ? PixelCount(most) : std::nullopt;
+    const PixelCount pixels = mostPixels(item, code("hvcC"));
+    const auto data = pixels && *pixels > 0 ? dataOf(item) : std::nullopt;
+    return data && isOnePicture(*data) ? pixels : std::nullopt;
 }
 
-PixelCount Items::announcedPixels(const Item& item) const {
+PixelCount Items::mostPixels(const Item& item, std::uint32_t propertyType) const {
     std::uint64_t most = 0;
-    for (const std::size_t property : item.properties) {
-        if (property == 0 || property > m_properties.size())
+    for (const std::size_t number : item.properties) {
+        if (number == 0 || number > m_properties.size())
             continue;
-        if (m_properties[property - 1].type != code("ispe"))
+        const Property& property = m_properties[number - 1];
+        if (property.type != propertyType)
             continue;
-        ByteReader reader(m_properties[property - 1].body);
-        versionOf(reader);
-        const std::uint64_t width = reader.u32();
-        const std::uint64_t height = reader.u32();
-        if (reader.failed())
+        if (!property.pixels)
             return std::nullopt;
-        most = std::max(most, width * height);
+        most = std::max(most, *property.pixels);
     }
-    return std::min(most, endlessPixels);
+    return most;
 }
 
 bool Items::isOnePicture(const std::vector<std::uint8_t>& data) const {
@@ -397,8 +432,10 @@ std::optional<std::vector<std::uint8_t>> Items::dataOf(const Item& item) {
     const ByteReader bounds(source);
     std::vector<std::uint8_t> data;
     for (const Extent& extent : item.extents) {
+        if (!bounds.contains(extent.offset, extent.length))
+            return std::nullopt;
         m_bytesRead += extent.length;
-        if (!bounds.contains(extent.offset, extent.length) || m_bytesRead > m_file.size())
+        if (m_bytesRead > m_file.size())
             return std::nullopt;
         const Bytes piece = source.subspan(static_cast<std::size_t>(extent.offset),
                                            static_cast<std::size_t>(extent.length));
