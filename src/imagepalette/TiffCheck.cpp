@@ -5,8 +5,7 @@
 
 #include <algorithm>
 #include <map>
-#include <numeric>
-#include <vector>
+#include <span>
 
 namespace dropshade {
 
@@ -50,6 +49,27 @@ std::uint64_t quotient(std::uint64_t dividend, std::uint64_t divisor) {
     return (dividend + divisor - 1) / divisor;
 }
 
+/// Whole numbers in a row, read where they lie.
+class Numbers {
+public:
+    Numbers(const ByteReader& reader, std::uint16_t type, std::uint64_t count)
+        : m_reader(reader), m_type(type), m_count(count) {}
+
+    std::uint64_t count() const { return m_count; }
+
+    /// Called no more often than there are numbers.
+    std::uint64_t next() {
+        return m_type == byteType    ? m_reader.u8()
+               : m_type == shortType ? m_reader.u16()
+                                     : m_reader.u32();
+    }
+
+private:
+    ByteReader m_reader;
+    std::uint16_t m_type;
+    std::uint64_t m_count;
+};
+
 /// The first directory of a TIFF file.
 class Directory {
 public:
@@ -68,27 +88,20 @@ public:
     /// Whether the directory, and every value that it points to, lies within the file.
     bool isWhole() const { return m_isWhole && !m_reader.failed(); }
 
-    /// The whole numbers under a tag; none where it is absent or holds something else.
-    std::vector<std::uint64_t> values(Tag tag) const {
+    /// Those under a tag; none where it is absent or holds something else.
+    Numbers numbers(Tag tag) const {
         const auto found = m_entries.find(tag);
-        if (found == m_entries.end())
-            return {};
-        const Entry& entry = found->second;
-        if (entry.type != byteType && entry.type != shortType && entry.type != longType)
-            return {};
+        const Entry entry = found == m_entries.end() ? Entry() : found->second;
+        const bool isWholeNumbers =
+            entry.type == byteType || entry.type == shortType || entry.type == longType;
         ByteReader reader = m_reader;
         reader.seek(entry.offset);
-        std::vector<std::uint64_t> result;
-        for (std::uint64_t at = 0; at < entry.count; ++at)
-            result.push_back(entry.type == byteType    ? reader.u8()
-                             : entry.type == shortType ? reader.u16()
-                                                       : reader.u32());
-        return result;
+        return Numbers(reader, entry.type, isWholeNumbers ? entry.count : 0);
     }
 
     std::uint64_t value(Tag tag, std::uint64_t fallback) const {
-        const std::vector<std::uint64_t> all = values(tag);
-        return all.empty() ? fallback : all.front();
+        Numbers all = numbers(tag);
+        return all.count() == 0 ? fallback : all.next();
     }
 
     bool contains(std::uint64_t offset, std::uint64_t count) const {
@@ -140,7 +153,7 @@ struct Layout {
                                       // Commonly 2^32 − 1 where there is but one.
                                       std::min(height, directory.value(rowsPerStrip, height)))),
           hasSeparatePlanes(directory.value(planarConfiguration, 1) == separatePlanes),
-          isTiled(!directory.values(tileWidth).empty()) {}
+          isTiled(directory.numbers(tileWidth).count() > 0) {}
 
     std::uint64_t piecesAcross() const { return quotient(width, pieceWidth); }
     std::uint64_t piecesDown() const { return quotient(height, pieceHeight); }
@@ -174,16 +187,18 @@ bool isWholeTiff(std::span<const std::uint8_t> file) {
     const Layout layout(directory);
     if (!layout.makesSense())
         return false;
-    const auto offsets = directory.values(layout.isTiled ? tileOffsets : stripOffsets);
-    const auto counts = directory.values(layout.isTiled ? tileByteCounts : stripByteCounts);
-    if (offsets.size() != counts.size() || offsets.size() < layout.pieces())
+    Numbers offsets = directory.numbers(layout.isTiled ? tileOffsets : stripOffsets);
+    Numbers counts = directory.numbers(layout.isTiled ? tileByteCounts : stripByteCounts);
+    if (offsets.count() != counts.count() || offsets.count() < layout.pieces())
         return false;
-    for (std::size_t at = 0; at < offsets.size(); ++at) {
-        if (counts[at] == 0 || !directory.contains(offsets[at], counts[at]))
+    std::uint64_t bytes = 0;
+    for (std::uint64_t left = counts.count(); left > 0; --left) {
+        const std::uint64_t count = counts.next();
+        if (count == 0 || !directory.contains(offsets.next(), count))
             return false;
+        bytes += count;
     }
-    return directory.value(compression, uncompressed) != uncompressed ||
-           std::accumulate(counts.begin(), counts.end(), std::uint64_t{0}) >= layout.rawBytes();
+    return directory.value(compression, uncompressed) != uncompressed || bytes >= layout.rawBytes();
 }
 
 } // namespace dropshade

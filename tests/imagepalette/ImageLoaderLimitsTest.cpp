@@ -198,6 +198,20 @@ TEST_F(ImageLoaderLimits, ATiffOfHugeTilesGivesNoImage) {
     EXPECT_FALSE(loads(file));
 }
 
+TEST_F(ImageLoaderLimits, ATiffOfMillionsOfStripsTakesNoMoreThanItsBytes) {
+    constexpr quint32 strips = 16 * 1024 * 1024;
+    QByteArray file = tiff(40, 30, 0);
+    QByteArray range(8, Qt::Uninitialized);
+    qToLittleEndian(strips, range.data());
+    qToLittleEndian(quint32(file.size()), range.data() + 4);
+    for (qsizetype entry = 10; entry < 10 + 10 * 12; entry += 12) {
+        const auto tag = qFromLittleEndian<quint16>(file.constData() + entry);
+        if (tag == 273 || tag == 279)
+            file = patched(file, entry + 2, QByteArray("\1\0", 2) + range);
+    }
+    static_cast<void>(loads(file + QByteArray(strips, '\1')));
+}
+
 TEST_F(ImageLoaderLimits, DamagedFilesNeverCrashAndStayCheap) {
     constexpr unsigned seed = 20'240'601;
     SCOPED_TRACE(testing::Message() << "seed " << seed);
