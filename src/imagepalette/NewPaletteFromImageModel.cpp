@@ -154,12 +154,10 @@ void NewPaletteFromImageModel::buildPixels() {
 }
 
 void NewPaletteFromImageModel::recompute() {
-    if (!m_pixelBuffer) {
-        setSwatches({});
-        return;
-    }
     m_quantizationTask.reset();
-    setProcessing(true);
+    setProcessing(m_pixelBuffer.has_value());
+    if (!m_pixelBuffer)
+        return setSwatches({});
     m_quantizationTask = std::make_unique<QuantizationTask>(
         m_surroundings.scheduler, m_surroundings.backgroundQueue,
         QuantizationJob{*m_pixelBuffer, static_cast<int>(m_colorCount), m_algorithm,

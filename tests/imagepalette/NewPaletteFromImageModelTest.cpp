@@ -197,6 +197,16 @@ TEST_F(NewPaletteFromImage, AnImageWithoutPixelsIsToldAndHasNoColors) {
     EXPECT_EQ(m_model.errorMessage(), std::nullopt);
 }
 
+TEST_F(NewPaletteFromImage, AnImageWithoutPixelsCancelsTheComputation) {
+    load(photo());
+    m_desk.scheduler().advance(30);
+    m_desk.queue().work();
+    load(LoadedImage{});
+    m_desk.queue().land();
+    EXPECT_EQ(colors(), 0U);
+    EXPECT_FALSE(m_model.isProcessing());
+}
+
 TEST(NewPaletteFromImageEnd, AModelThatGoesCancelsWhatIsOnItsWay) {
     ManualScheduler scheduler;
     ManualBackgroundQueue queue;
