@@ -27,6 +27,12 @@ QString spokenName(const PaletteSwatch& swatch) {
     return swatch.label() && !swatch.label()->isEmpty() ? *swatch.label() : swatch.value();
 }
 
+QString placeText(const QString& name, qsizetype index, qsizetype count) {
+    //: For screen readers: %1 is a name, %2 its new place, %3 how many there are
+    return PaletteMoves::tr("%1 moved to %2 of %3")
+        .arg(name, QString::number(index + 1), QString::number(count));
+}
+
 } // namespace
 
 bool PaletteMoves::movePalette(QUuid id, Direction direction) {
@@ -37,9 +43,7 @@ bool PaletteMoves::movePalette(QUuid id, Direction direction) {
     if (order.isEmpty())
         return false;
     m_model.store().reorderPalettes(order);
-    //: For screen readers: %1 is a name, %2 its new place, %3 how many there are
-    Q_EMIT announced(
-        tr("%1 moved to %2 of %3").arg(palettes.at(from).name()).arg(to + 1).arg(palettes.size()));
+    Q_EMIT announced(placeText(palettes.at(from).name(), to, palettes.size()));
     return true;
 }
 
@@ -54,9 +58,7 @@ bool PaletteMoves::moveScale(QUuid paletteId, QUuid scaleId, Direction direction
     if (order.isEmpty())
         return false;
     m_model.store().reorderScales(paletteId, order);
-    //: For screen readers: %1 is a name, %2 its new place, %3 how many there are
-    Q_EMIT announced(
-        tr("%1 moved to %2 of %3").arg(scales.at(from).name()).arg(to + 1).arg(scales.size()));
+    Q_EMIT announced(placeText(scales.at(from).name(), to, scales.size()));
     return true;
 }
 
@@ -71,11 +73,7 @@ bool PaletteMoves::moveSwatch(const SwatchPath& path, Direction direction) {
     if (order.isEmpty())
         return false;
     m_model.store().reorderSwatches(path.paletteId, path.scaleId, order);
-    //: For screen readers: %1 is a name, %2 its new place, %3 how many there are
-    Q_EMIT announced(tr("%1 moved to %2 of %3")
-                         .arg(spokenName(swatches.at(from)))
-                         .arg(to + 1)
-                         .arg(swatches.size()));
+    Q_EMIT announced(placeText(spokenName(swatches.at(from)), to, swatches.size()));
     return true;
 }
 
@@ -97,9 +95,9 @@ std::optional<SwatchPath> PaletteMoves::moveSwatchToScale(const SwatchPath& path
     const qsizetype place = std::min(index, target.swatches().size());
     m_model.store().moveSwatch(path.paletteId, path.scaleId, path.swatchId, target.id(), place);
     //: For screen readers: %1 is a color, %2 the scale that it is in now, %3 its place there
-    Q_EMIT announced(tr("%1 moved to %2, place %3")
-                         .arg(spokenName(swatches.at(index)), target.name())
-                         .arg(place + 1));
+    Q_EMIT announced(
+        tr("%1 moved to %2, place %3")
+            .arg(spokenName(swatches.at(index)), target.name(), QString::number(place + 1)));
     return SwatchPath{path.paletteId, target.id(), path.swatchId};
 }
 

@@ -65,6 +65,18 @@ TEST_F(MovingByKeys, ALabelIsSaidWhereThereIsOne) {
     EXPECT_THAT(m_spoken, ElementsAre(QStringLiteral("midnight moved to 2 of 3")));
 }
 
+TEST_F(MovingByKeys, ANameIsSaidAsItIsWhateverItHolds) {
+    store().renamePalette(seaId(), QStringLiteral("50%2"));
+    store().renameScale(seaId(), scaleId(0), QStringLiteral("%2%3"));
+    store().renameScale(seaId(), scaleId(1), QStringLiteral("%3"));
+    m_moves.movePalette(seaId(), Direction::Forward);
+    m_moves.moveScale(seaId(), scaleId(0), Direction::Forward);
+    m_moves.moveSwatchToScale(path(0, 2), Direction::Backward);
+    EXPECT_THAT(m_spoken, ElementsAre(QStringLiteral("50%2 moved to 2 of 2"),
+                                      QStringLiteral("%2%3 moved to 2 of 2"),
+                                      QStringLiteral("aqua moved to %3, place 2")));
+}
+
 TEST_F(MovingByKeys, AStepBeyondAnEndDoesNothing) {
     EXPECT_FALSE(m_moves.movePalette(seaId(), Direction::Backward));
     EXPECT_FALSE(m_moves.movePalette(landId(), Direction::Forward));
