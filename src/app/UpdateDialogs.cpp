@@ -17,8 +17,9 @@ constexpr qsizetype mostCharacters = 1200;
 
 QString beginningOf(const QString& notes) {
     QString beginning = notes.section(u'\n', 0, mostLines - 1);
-    if (beginning.size() > mostCharacters)
-        beginning.truncate(mostCharacters);
+    beginning.truncate(mostCharacters);
+    if (!beginning.isEmpty() && beginning.back().isHighSurrogate())
+        beginning.chop(1);
     return beginning.size() < notes.size() ? beginning + QStringLiteral("\u2026") : beginning;
 }
 

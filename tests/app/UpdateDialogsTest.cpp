@@ -63,6 +63,13 @@ TEST_F(UpdateDialogsTest, ShowTheBeginningOfLongNotes) {
     EXPECT_TRUE(alert.text.endsWith(u'\u2026'));
 }
 
+TEST_F(UpdateDialogsTest, EndLongNotesWithAWholeCharacter) {
+    for (const QString& start : {QString(), QStringLiteral("-")}) {
+        const Alert alert = offer(start + QStringLiteral("\U0001F3A8").repeated(1000));
+        EXPECT_TRUE(alert.text.endsWith(QStringLiteral("\U0001F3A8\u2026")));
+    }
+}
+
 TEST_F(UpdateDialogsTest, GiveTheAnswerOfEachButton) {
     const std::pair<const char*, Answer> answers[] = {
         {"Later", Answer::Later},
