@@ -4,6 +4,7 @@
 
 #include <QSocketNotifier>
 
+#include <array>
 #include <memory>
 
 namespace dropshade {
@@ -13,7 +14,8 @@ namespace dropshade {
 /// a time.
 class QuitSignals {
 public:
-    /// Holds the signals back. Before the application and its threads, which inherit the mask.
+    /// Holds the signals back. They are caught rather than blocked: a mask would pass on to every
+    /// program that this one starts, and no signal would end those.
     QuitSignals();
     ~QuitSignals();
     QuitSignals(const QuitSignals&) = delete;
@@ -23,7 +25,8 @@ public:
     void listen();
 
 private:
-    int m_descriptor;
+    /// Of a pipe, to read from and to write to; -1 where there is none.
+    std::array<int, 2> m_ends{-1, -1};
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
