@@ -44,8 +44,19 @@ public:
     /// has changed, for this process neither.
     virtual bool update(const QString& key, const Change& change) = 0;
 
+    /// Stores what `change` makes of the value under `key`, like `update`, but keeps what the disk
+    /// refused, like `setValue`: false then, this process goes on to see what the change makes of
+    /// what it can read, and with the next write the change is made of what the disk has then. So
+    /// no value is lost because it could not be read. `change` must be good for as long as this
+    /// object is.
+    virtual bool amend(const QString& key, const Change& change) = 0;
+
     /// Every key that is set, in no order.
     [[nodiscard]] virtual QStringList keys() const = 0;
+
+    /// How many reads the disk has refused so far: where a read has made it grow, what seems unset
+    /// may be set.
+    [[nodiscard]] virtual int refusedReads() const = 0;
 
     [[nodiscard]] bool contains(const QString& key) const { return value(key).has_value(); }
 
@@ -58,7 +69,8 @@ public:
     }
 
 Q_SIGNALS:
-    /// After every `setValue` and `remove` of this process.
+    /// After every `setValue`, `remove` and `amend` of this process, and each `update` that was
+    /// stored.
     void didChange(const QString& key);
 };
 

@@ -270,6 +270,61 @@ TEST_F(SqliteDefaultsRefusal, OfAnUpdateChangesNothingHereNorThere) {
     EXPECT_TRUE(other.contains(newKey));
 }
 
+/// Adds one to what is there, or begins with 100.
+DefaultsValue counted(const std::optional<DefaultsValue>& value) {
+    return DefaultsValue(value ? std::get<qint64>(*value) + 1 : qint64(100));
+}
+
+TEST_F(SqliteDefaultsRefusal, OfAnAmendmentHasItMadeOfWhatIsThereInTheEnd) {
+    SqliteDefaults store(m_path);
+    ASSERT_TRUE(store.setValue(oldKey, qint64(1)));
+    SqliteDatabase lock(QFile::encodeName(m_path), SqliteDatabase::Access::ReadWrite);
+    ASSERT_EQ(lock.execute("BEGIN IMMEDIATE"), SQLITE_OK);
+    EXPECT_FALSE(store.amend(oldKey, counted));
+    EXPECT_FALSE(store.amend(oldKey, counted));
+    EXPECT_EQ(store.value(oldKey), DefaultsValue(qint64(3)));
+    EXPECT_EQ(store.refusedReads(), 0) << "others may still read";
+    ASSERT_EQ(lock.execute("COMMIT"), SQLITE_OK);
+    ASSERT_TRUE(SqliteDefaults(m_path).setValue(oldKey, qint64(41)));
+    EXPECT_EQ(store.value(oldKey), DefaultsValue(qint64(43)));
+    EXPECT_TRUE(store.amend(oldKey, counted));
+    EXPECT_EQ(SqliteDefaults(m_path).value(oldKey), DefaultsValue(qint64(44)));
+}
+
+TEST_F(SqliteDefaultsRefusal, OfAnAmendmentOfWhatIsReplacedOrRemovedChangesThat) {
+    SqliteDefaults store(m_path);
+    ASSERT_TRUE(store.setValue(oldKey, qint64(1)));
+    {
+        const FileSizeLimit limit(0);
+        EXPECT_FALSE(store.remove(oldKey));
+        EXPECT_FALSE(store.amend(oldKey, counted));
+        EXPECT_FALSE(store.amend(newKey, counted));
+        EXPECT_FALSE(store.setValue(newKey, qint64(7)));
+        EXPECT_THAT(store.keys(), UnorderedElementsAre(oldKey, newKey));
+    }
+    EXPECT_TRUE(store.setValue(nextKey, true));
+    const SqliteDefaults other(m_path);
+    EXPECT_EQ(other.value(oldKey), DefaultsValue(qint64(100)));
+    EXPECT_EQ(other.value(newKey), DefaultsValue(qint64(7)));
+}
+
+TEST_F(SqliteDefaultsRefusal, ToReadIsCountedAndNotTakenForAnUnsetKey) {
+    ASSERT_TRUE(SqliteDefaults(m_path).setValue(oldKey, qint64(1)));
+    const QString folder = m_folder.folder().path();
+    ASSERT_TRUE(QFile::setPermissions(folder, QFile::WriteOwner));
+    SqliteDefaults store(m_path);
+    {
+        const Unprivileged user;
+        EXPECT_FALSE(store.contains(oldKey));
+        EXPECT_EQ(store.refusedReads(), 1);
+        EXPECT_FALSE(store.amend(oldKey, counted));
+        EXPECT_EQ(store.value(oldKey), DefaultsValue(qint64(100)));
+    }
+    ASSERT_TRUE(
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    EXPECT_EQ(store.value(oldKey), DefaultsValue(qint64(2)));
+}
+
 TEST_F(SqliteDefaultsRefusal, ByALockOnTheWholeFileDelaysOnlyTheFirstRead) {
     ASSERT_TRUE(SqliteDefaults(m_path).setValue(oldKey, true));
     auto other = std::make_unique<SqliteDatabase>(QFile::encodeName(m_path),

@@ -183,6 +183,25 @@ TYPED_TEST(UserDefaultsContract, UpdatesWhatAnotherProcessWroteLastAndAnnouncesI
     EXPECT_EQ(this->m_announced, QStringList(2, this->m_key));
 }
 
+TYPED_TEST(UserDefaultsContract, AmendsWhatAnotherProcessWroteLastAndAnnouncesIt) {
+    const auto longer = [](const std::optional<DefaultsValue>& value) {
+        return DefaultsValue(value ? std::get<QString>(*value) + u'x' : QStringLiteral("-"));
+    };
+    EXPECT_TRUE(this->store().amend(this->m_key, longer));
+    this->m_kind.writeElsewhere(this->m_key, QStringLiteral("other"));
+    EXPECT_TRUE(this->store().amend(this->m_key, longer));
+    EXPECT_EQ(this->store().value(this->m_key), DefaultsValue(QStringLiteral("otherx")));
+    EXPECT_EQ(this->m_announced, QStringList(2, this->m_key));
+}
+
+TYPED_TEST(UserDefaultsContract, CountsNoReadOfWhatIsUnsetAsRefused) {
+    EXPECT_FALSE(this->store().contains(this->m_key));
+    EXPECT_TRUE(this->store().setValue(this->m_key, true));
+    EXPECT_TRUE(this->store().contains(this->m_key));
+    EXPECT_EQ(this->store().keys().size(), 1);
+    EXPECT_EQ(this->store().refusedReads(), 0);
+}
+
 TEST(SqliteDefaultsContents, OutliveTheObject) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("defaults.sqlite"));

@@ -30,6 +30,13 @@ public:
         return !m_refusing && setValue(key, change(value(key)));
     }
 
+    bool amend(const QString& key, const Change& change) override {
+        return setValue(key, change(value(key)));
+    }
+
+    /// Memory is always there.
+    [[nodiscard]] int refusedReads() const override { return 0; }
+
     [[nodiscard]] QStringList keys() const override {
         QStringList all;
         for (const auto& [key, value] : m_values) {

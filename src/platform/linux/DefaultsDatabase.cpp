@@ -22,7 +22,7 @@ constexpr std::string_view upsert =
     "ON CONFLICT(key) DO UPDATE SET type = excluded.type, value = excluded.value";
 constexpr std::string_view deleteKey = "DELETE FROM defaults WHERE key = ?1";
 
-int read(SqliteDatabase& database, const QString& key, std::optional<DefaultsValue>& value) {
+int readValue(SqliteDatabase& database, const QString& key, std::optional<DefaultsValue>& value) {
     value.reset();
     return forEachRow(
         database, selectValue, [&](sqlite3_stmt* statement) { return bindText(statement, 1, key); },
@@ -41,29 +41,32 @@ int store(SqliteDatabase& database, const QString& key, const std::optional<Defa
 
 DefaultsDatabase::DefaultsDatabase(const QString& path) : m_database(path, form) {}
 
-std::optional<DefaultsValue> DefaultsDatabase::value(const QString& key) {
-    std::optional<DefaultsValue> found;
-    m_database.read([&](SqliteDatabase& database) { return read(database, key, found); });
-    return found;
+bool DefaultsDatabase::read(const QString& key, std::optional<DefaultsValue>& value) {
+    value.reset();
+    return m_database.read(
+        [&](SqliteDatabase& database) { return readValue(database, key, value); });
 }
 
-QStringList DefaultsDatabase::keys() {
-    QStringList all;
-    m_database.read([&](SqliteDatabase& database) {
-        all.clear();
+bool DefaultsDatabase::readKeys(QStringList& keys) {
+    keys.clear();
+    return m_database.read([&](SqliteDatabase& database) {
+        keys.clear();
         return forEachRow(
             database, selectKeys, [](sqlite3_stmt*) { return SQLITE_OK; },
-            [&](sqlite3_stmt* statement) { all.append(textIn(statement, 0)); });
+            [&](sqlite3_stmt* statement) { keys.append(textIn(statement, 0)); });
     });
-    return all;
 }
 
 bool DefaultsDatabase::write(const Changes& changes, Deadline deadline) {
     return m_database.write(deadline, [&](SqliteDatabase& database) {
         int result = SQLITE_OK;
-        for (const auto& [key, value] : changes) {
+        for (const auto& [key, unsaved] : changes) {
+            std::optional<DefaultsValue> present;
+            if (result == SQLITE_OK && !unsaved.isReplaced()) {
+                result = readValue(database, key, present);
+            }
             if (result == SQLITE_OK) {
-                result = store(database, key, value);
+                result = store(database, key, unsaved.over(present));
             }
         }
         return result;
@@ -74,7 +77,7 @@ bool DefaultsDatabase::update(const QString& key, const UserDefaults::Change& ch
                               Deadline deadline) {
     return m_database.write(deadline, [&](SqliteDatabase& database) {
         std::optional<DefaultsValue> present;
-        const int result = read(database, key, present);
+        const int result = readValue(database, key, present);
         return result == SQLITE_OK ? store(database, key, change(present)) : result;
     });
 }

@@ -4,6 +4,7 @@
 
 #include "platform/UserDefaults.h"
 #include "platform/linux/KeptDatabase.h"
+#include "platform/linux/UnsavedValue.h"
 
 #include <map>
 
@@ -12,14 +13,14 @@ namespace dropshade {
 /// The settings on the disk: one table in one file.
 class DefaultsDatabase {
 public:
-    /// What is to become of a key: a value, or nothing to remove it.
-    using Changes = std::map<QString, std::optional<DefaultsValue>>;
+    /// What is to become of which key.
+    using Changes = std::map<QString, UnsavedValue>;
 
     explicit DefaultsDatabase(const QString& path);
 
-    /// What the disk holds under `key`; nothing also when it can't be read.
-    [[nodiscard]] std::optional<DefaultsValue> value(const QString& key);
-    [[nodiscard]] QStringList keys();
+    /// What the disk holds under `key`. False when it can't be read; then `value` is nothing.
+    [[nodiscard]] bool read(const QString& key, std::optional<DefaultsValue>& value);
+    [[nodiscard]] bool readKeys(QStringList& keys);
 
     /// Stores all of the changes and returns true, or stores none.
     [[nodiscard]] bool write(const Changes& changes, Deadline deadline);

@@ -56,8 +56,9 @@ Deadline KeptDatabase::deadline() {
     return std::chrono::steady_clock::now() + std::chrono::milliseconds(200);
 }
 
-void KeptDatabase::read(const Work& work) {
-    attempt(Need::Read, deadline(), work);
+bool KeptDatabase::read(const Work& work) {
+    const int result = attempt(Need::Read, deadline(), work);
+    return result == SQLITE_OK || (m_database == nullptr && m_file.isKnownBlank());
 }
 
 bool KeptDatabase::write(Deadline deadline, const Work& work) {

@@ -51,8 +51,8 @@ public:
     KeptDatabase(const QString& path, const DatabaseForm& form);
     ~KeptDatabase();
 
-    /// Runs `work` if there is something to read.
-    void read(const Work& work);
+    /// Runs `work` if there is something to read. False where there is and it couldn't be read.
+    bool read(const Work& work);
 
     /// Runs `work` in a transaction. False when nothing of it was stored.
     [[nodiscard]] bool write(Deadline deadline, const Work& work);

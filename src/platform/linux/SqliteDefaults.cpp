@@ -19,22 +19,38 @@ SqliteDefaults::~SqliteDefaults() {
 
 std::optional<DefaultsValue> SqliteDefaults::value(const QString& key) const {
     const auto unsaved = m_unsaved.find(key);
-    return unsaved != m_unsaved.end() ? unsaved->second : m_database->value(key);
+    if (unsaved == m_unsaved.end()) {
+        return storedValue(key);
+    }
+    return unsaved->second.over(unsaved->second.isReplaced() ? std::nullopt : storedValue(key));
+}
+
+std::optional<DefaultsValue> SqliteDefaults::storedValue(const QString& key) const {
+    std::optional<DefaultsValue> stored;
+    m_refusedReads += m_database->read(key, stored) ? 0 : 1;
+    return stored;
 }
 
 bool SqliteDefaults::setValue(const QString& key, const DefaultsValue& value) {
-    return change(key, value);
+    m_unsaved[key].replace(value);
+    return storeAndAnnounce(key);
 }
 
 bool SqliteDefaults::remove(const QString& key) {
-    return change(key, std::nullopt);
+    m_unsaved[key].replace(std::nullopt);
+    return storeAndAnnounce(key);
+}
+
+bool SqliteDefaults::amend(const QString& key, const Change& change) {
+    m_unsaved[key].amend(change);
+    return storeAndAnnounce(key);
 }
 
 bool SqliteDefaults::update(const QString& key, const Change& change) {
     const auto deadline = KeptDatabase::deadline();
     const auto unsaved = m_unsaved.find(key);
     const auto changed = [&](const std::optional<DefaultsValue>& stored) {
-        return change(unsaved != m_unsaved.end() ? unsaved->second : stored);
+        return change(unsaved != m_unsaved.end() ? unsaved->second.over(stored) : stored);
     };
     if (!m_database->update(key, changed, deadline)) {
         return false;
@@ -48,10 +64,11 @@ bool SqliteDefaults::update(const QString& key, const Change& change) {
 }
 
 QStringList SqliteDefaults::keys() const {
-    QStringList all = m_database->keys();
-    for (const auto& [key, value] : m_unsaved) {
+    QStringList all;
+    m_refusedReads += m_database->readKeys(all) ? 0 : 1;
+    for (const auto& [key, unsaved] : m_unsaved) {
         all.removeAll(key);
-        if (value) {
+        if (value(key)) {
             all.append(key);
         }
     }
@@ -63,8 +80,7 @@ QString SqliteDefaults::defaultPath() {
            QStringLiteral("/dropshade/defaults.sqlite");
 }
 
-bool SqliteDefaults::change(const QString& key, std::optional<DefaultsValue> value) {
-    m_unsaved.insert_or_assign(key, std::move(value));
+bool SqliteDefaults::storeAndAnnounce(const QString& key) {
     const bool isStored = store(key);
     Q_EMIT didChange(key);
     return isStored;

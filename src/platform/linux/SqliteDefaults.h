@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/UserDefaults.h"
+#include "platform/linux/UnsavedValue.h"
 
 #include <map>
 #include <memory>
@@ -37,18 +38,22 @@ public:
     bool setValue(const QString& key, const DefaultsValue& value) override;
     bool remove(const QString& key) override;
     bool update(const QString& key, const Change& change) override;
+    bool amend(const QString& key, const Change& change) override;
     [[nodiscard]] QStringList keys() const override;
+    [[nodiscard]] int refusedReads() const override { return m_refusedReads; }
 
     /// `dropshade/defaults.sqlite` in the user's configuration folder.
     [[nodiscard]] static QString defaultPath();
 
 private:
-    bool change(const QString& key, std::optional<DefaultsValue> value);
+    [[nodiscard]] std::optional<DefaultsValue> storedValue(const QString& key) const;
+    bool storeAndAnnounce(const QString& key);
     bool store(const QString& key);
 
     std::unique_ptr<DefaultsDatabase> m_database;
-    /// What the disk refused so far; nothing for a key that was removed.
-    std::map<QString, std::optional<DefaultsValue>> m_unsaved;
+    /// What the disk refused so far.
+    std::map<QString, UnsavedValue> m_unsaved;
+    mutable int m_refusedReads = 0;
 };
 
 } // namespace dropshade

@@ -93,6 +93,12 @@ bool SqliteFile::isBlank() const {
     return sizeOf(m_path) == 0;
 }
 
+bool SqliteFile::isKnownBlank() const {
+    struct stat found = {};
+    return ::stat(m_path.constData(), &found) == 0 ? found.st_size == 0
+                                                   : errno == ENOENT || errno == ENOTDIR;
+}
+
 bool SqliteFile::hasLog() const {
     return sizeOf(resolvedPath() + "-wal") > 0;
 }

@@ -51,6 +51,9 @@ public:
     /// True when there is no file at the path, or an empty one.
     [[nodiscard]] bool isBlank() const;
 
+    /// The same, but false also where nobody can tell, as in a folder that may not be searched.
+    [[nodiscard]] bool isKnownBlank() const;
+
     /// True when a write-ahead log with content lies at the path. Beside a blank file it is all
     /// that is left of a database, and SQLite would delete it.
     [[nodiscard]] bool hasLog() const;
