@@ -85,20 +85,27 @@ void AppSettings::setICloudSyncEnabled(bool enabled) {
 }
 
 void AppSettings::reloadFromDefaults() {
-    // The sets write as any set does; the tests for a difference are what keeps a reload quiet.
-    if (const auto size = dropshade::swatchSize(m_defaults); size != m_swatchSize)
-        setSwatchSize(size);
-    if (const bool closes = dropshade::closePaletteDialogOnCopy(m_defaults);
-        closes != m_closePaletteDialogOnCopy)
-        setClosePaletteDialogOnCopy(closes);
-    if (const bool closes = dropshade::closeConvertDialogOnCopy(m_defaults);
-        closes != m_closeConvertDialogOnCopy)
-        setCloseConvertDialogOnCopy(closes);
-    if (const auto algorithm = dropshade::contrastAlgorithm(m_defaults);
-        algorithm != m_contrastAlgorithm)
-        setContrastAlgorithm(algorithm);
-    setMenuBarIconStyle(dropshade::menuBarIconStyle(m_defaults));
-    reloadPins();
+    const int refusedBefore = m_defaults.refusedReads();
+    const auto size = dropshade::swatchSize(m_defaults);
+    const bool closesPalettes = dropshade::closePaletteDialogOnCopy(m_defaults);
+    const bool closesConvert = dropshade::closeConvertDialogOnCopy(m_defaults);
+    const auto algorithm = dropshade::contrastAlgorithm(m_defaults);
+    const auto style = dropshade::menuBarIconStyle(m_defaults);
+    const auto pins = storedPins();
+    // What couldn't be read seems unset, and a set would store that over what is there.
+    if (m_defaults.refusedReads() == refusedBefore) {
+        // The sets write as any set does; the tests for a difference are what keeps a reload quiet.
+        if (size != m_swatchSize)
+            setSwatchSize(size);
+        if (closesPalettes != m_closePaletteDialogOnCopy)
+            setClosePaletteDialogOnCopy(closesPalettes);
+        if (closesConvert != m_closeConvertDialogOnCopy)
+            setCloseConvertDialogOnCopy(closesConvert);
+        if (algorithm != m_contrastAlgorithm)
+            setContrastAlgorithm(algorithm);
+        setMenuBarIconStyle(style);
+        takeOverPins(pins);
+    }
     ++m_remoteChangeTick;
     Q_EMIT remoteChangeTickDidChange();
 }
@@ -192,8 +199,7 @@ KeptList<PinnedColor> AppSettings::storedPins() const {
 }
 
 /// A pin that is not on the disk yet stays: what came has been made without knowing of it.
-void AppSettings::reloadPins() {
-    const auto stored = storedPins();
+void AppSettings::takeOverPins(const KeptList<PinnedColor>& stored) {
     if (stored.json == m_keptPins.json)
         return;
     const auto pins = hasPendingPins()

@@ -53,7 +53,8 @@ public:
     void setICloudSyncEnabled(bool enabled);
 
     /// Takes over what was written to the defaults behind this object's back, all fields but
-    /// `iCloudSyncEnabled`, which is each machine's own.
+    /// `iCloudSyncEnabled`, which is each machine's own. While the defaults can't be read all
+    /// stays.
     void reloadFromDefaults();
 
     // Favourites. Every change is written once, 0.25 seconds after the last of a burst; where
@@ -98,7 +99,7 @@ private:
     using PinTest = std::function<bool(const PinRecord&)>;
 
     [[nodiscard]] KeptList<PinnedColor> storedPins() const;
-    void reloadPins();
+    void takeOverPins(const KeptList<PinnedColor>& stored);
     void setPinnedColors(const QList<PinnedColor>& pins);
     /// The same with no write to follow.
     void showPins(const QList<PinnedColor>& pins);

@@ -8,8 +8,10 @@
 namespace dropshade {
 
 void countCheck(UserDefaults& defaults) {
-    const qint64 count = defaults.read<qint64>(keys::totalChecksCount).value_or(0);
-    defaults.setValue(keys::totalChecksCount, count + 1);
+    defaults.amend(keys::totalChecksCount, [](const std::optional<DefaultsValue>& stored) {
+        const qint64* count = stored ? std::get_if<qint64>(&*stored) : nullptr;
+        return DefaultsValue((count ? *count : 0) + 1);
+    });
 }
 
 QString ColorCopier::text(const SRGBColor& color, std::optional<ColorFormat> format) const {

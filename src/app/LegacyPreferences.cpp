@@ -30,7 +30,9 @@ QString legacyPreferencesPath(const QString& home) {
 }
 
 void importLegacyPreferences(UserDefaults& defaults, const QString& path) {
-    if (defaults.read<bool>(keys::didImportLegacyContainerPrefs).value_or(false))
+    const int refusedBefore = defaults.refusedReads();
+    const bool isDone = defaults.read<bool>(keys::didImportLegacyContainerPrefs).value_or(false);
+    if (isDone || defaults.refusedReads() != refusedBefore)
         return;
     defaults.setValue(keys::didImportLegacyContainerPrefs, true);
     const auto entries = propertyListDictionary(contentsOf(path));
@@ -38,7 +40,10 @@ void importLegacyPreferences(UserDefaults& defaults, const QString& path) {
         return;
     for (const auto& [key, value] : *entries) {
         if (!defaults.contains(key))
-            defaults.setValue(key, value);
+            // What has come meanwhile, or just couldn't be read, wins too.
+            defaults.amend(key, [value = value](const std::optional<DefaultsValue>& stored) {
+                return stored.value_or(value);
+            });
     }
 }
 

@@ -11,7 +11,8 @@ namespace dropshade {
 
 /// Takes over the preferences of the earlier build from the property list at `path`, binary or XML,
 /// but for those that are set already. This is tried once in the life of the store, whatever comes
-/// of it: a file that is missing, is no dictionary or is junk gives nothing.
+/// of it: a file that is missing, is no dictionary or is junk gives nothing. While nobody can read
+/// whether it was tried it is not.
 void importLegacyPreferences(UserDefaults& defaults, const QString& path);
 
 } // namespace dropshade

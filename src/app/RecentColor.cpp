@@ -48,31 +48,54 @@ void write(JsonWriter& json, const RecentColor& color) {
     json.endObject();
 }
 
-} // namespace
-
-QList<RecentColor> loadRecentColors(const UserDefaults& defaults) {
-    const auto json = defaults.read<QByteArray>(keys::recentColors);
+QList<RecentColor> decodedColors(const std::optional<DefaultsValue>& stored) {
+    const QByteArray* json = stored ? std::get_if<QByteArray>(&*stored) : nullptr;
     return json ? decodedJsonList(*json, readRecentColor).value_or(QList<RecentColor>())
                 : QList<RecentColor>();
 }
 
+/// The front of the list, nothing where that has no form.
+std::optional<QByteArray> encodedColors(const QList<RecentColor>& colors, qsizetype most) {
+    return encodedJsonList(
+        colors.first(std::min(colors.size(), most)),
+        [](JsonWriter& writer, const RecentColor& color) { write(writer, color); });
+}
+
+/// A limit that can't be read cuts nothing: the next colour does.
+qsizetype knownLimit(const UserDefaults& defaults) {
+    const int refusedBefore = defaults.refusedReads();
+    const int limit = recentColorsLimit(defaults);
+    return defaults.refusedReads() == refusedBefore ? limit : mostRecentColors;
+}
+
+/// Puts `added` in front of what is stored, once that can be read, and cuts it all to the limit.
+void amendRecentColors(UserDefaults& defaults, const QList<RecentColor>& added) {
+    const auto amended = [added, most = knownLimit(defaults)](const auto& stored) {
+        const auto json = encodedColors(added + decodedColors(stored), most);
+        return json ? DefaultsValue(*json) : stored.value_or(QByteArray("[]"));
+    };
+    defaults.amend(keys::recentColors, amended);
+}
+
+} // namespace
+
+QList<RecentColor> loadRecentColors(const UserDefaults& defaults) {
+    return decodedColors(defaults.value(keys::recentColors));
+}
+
 void saveRecentColors(UserDefaults& defaults, const QList<RecentColor>& colors) {
-    const QList<RecentColor> kept =
-        colors.first(std::min(colors.size(), qsizetype(recentColorsLimit(defaults))));
-    if (const auto json = encodedJsonList(
-            kept, [](JsonWriter& writer, const RecentColor& color) { write(writer, color); }))
+    if (const auto json = encodedColors(colors, recentColorsLimit(defaults)))
         defaults.setValue(keys::recentColors, *json);
 }
 
 void recordRecentColor(UserDefaults& defaults, const SRGBColor& color) {
-    QList<RecentColor> colors = loadRecentColors(defaults);
-    colors.prepend({QUuid::createUuid(), color.red(), color.green(), color.blue(), color.alpha()});
-    saveRecentColors(defaults, colors);
+    amendRecentColors(
+        defaults, {{QUuid::createUuid(), color.red(), color.green(), color.blue(), color.alpha()}});
 }
 
 void setRecentColorsLimit(UserDefaults& defaults, int limit) {
     defaults.setValue(keys::recentColorsLimit, qint64(std::clamp(limit, 0, mostRecentColors)));
-    saveRecentColors(defaults, loadRecentColors(defaults));
+    amendRecentColors(defaults, {});
 }
 
 } // namespace dropshade

@@ -3,9 +3,9 @@
 #include "palettes/UserPaletteStore.h"
 
 #include "app/SettingsReaders.h"
+#include "palettes/CollapsedPalettes.h"
 #include "palettes/PaletteJson.h"
 #include "palettes/PaletteSearch.h"
-#include "json/UuidText.h"
 
 #include <QHash>
 
@@ -109,6 +109,11 @@ bool separateTwins(QList<Palette>& palettes) {
     return areSeparated;
 }
 
+QSet<QUuid> idSet(const QList<Palette>& palettes) {
+    const QList<QUuid> ids = idsOf(palettes);
+    return QSet<QUuid>(ids.begin(), ids.end());
+}
+
 /// The name to set, or nothing where a rename to `to` means none.
 std::optional<QString> newName(const QString& present, const QString& to) {
     const QString trimmed = to.trimmed();
@@ -120,10 +125,11 @@ std::optional<QString> newName(const QString& present, const QString& to) {
 UserPaletteStore::UserPaletteStore(UserDefaults& defaults, Scheduler& scheduler,
                                    AppSettings& settings, PalettePresets& presets)
     : m_defaults(defaults), m_scheduler(scheduler), m_settings(settings) {
+    const int refusedBefore = m_defaults.refusedReads();
     const auto json = m_defaults.read<QByteArray>(keys::userPalettes);
     const auto stored = json ? decodedPalettes(*json, m_scheduler.now()) : std::nullopt;
     if (!stored) {
-        seed(presets);
+        seed(presets, m_defaults.refusedReads() == refusedBefore ? Stored::Known : Stored::Unknown);
         return;
     }
     m_palettes = *stored;
@@ -131,25 +137,22 @@ UserPaletteStore::UserPaletteStore(UserDefaults& defaults, Scheduler& scheduler,
     if (separateTwins(m_palettes))
         scheduleSave();
     // Where the key has never been written, the program has just learnt to collapse.
-    if (!m_defaults.contains(keys::collapsedPaletteIds))
-        collapseAll();
+    beginCollapsedIds(m_defaults, idSet(m_palettes));
 }
 
 UserPaletteStore::~UserPaletteStore() = default;
 
-void UserPaletteStore::seed(PalettePresets& presets) {
+void UserPaletteStore::seed(PalettePresets& presets, Stored stored) {
     for (const Palette& preset : presets.defaults())
         m_palettes.append(preset.freshCopy(m_scheduler.now()));
     // Should there be palettes after all, which merely couldn't be read just now, the first save
     // finds them and drops these.
     m_kept.items = m_palettes;
-    collapseAll();
+    if (stored == Stored::Known)
+        replaceCollapsedIds(m_defaults, idSet(m_palettes));
+    else
+        setCollapsed(idSet(m_palettes), true);
     scheduleSave(PinValidation::Wanted);
-}
-
-void UserPaletteStore::collapseAll() {
-    const QList<QUuid> ids = idsOf(m_palettes);
-    storeCollapsedIds(QSet<QUuid>(ids.begin(), ids.end()));
 }
 
 void UserPaletteStore::setPalettes(const QList<Palette>& palettes) {
@@ -410,13 +413,7 @@ void UserPaletteStore::flushPendingSave() {
 }
 
 QSet<QUuid> UserPaletteStore::collapsedPaletteIds() const {
-    QSet<QUuid> ids;
-    const auto texts = m_defaults.read<QStringList>(keys::collapsedPaletteIds);
-    for (const QString& text : texts.value_or(QStringList())) {
-        if (const auto id = uuidFromText(text))
-            ids.insert(*id);
-    }
-    return ids;
+    return storedCollapsedIds(m_defaults);
 }
 
 void UserPaletteStore::setCollapsed(QUuid id, bool collapsed) {
@@ -424,17 +421,7 @@ void UserPaletteStore::setCollapsed(QUuid id, bool collapsed) {
 }
 
 void UserPaletteStore::setCollapsed(const QSet<QUuid>& ids, bool collapsed) {
-    const QSet<QUuid> before = collapsedPaletteIds();
-    storeCollapsedIds(collapsed ? before + ids : before - ids);
-}
-
-void UserPaletteStore::storeCollapsedIds(const QSet<QUuid>& ids) {
-    QStringList texts;
-    for (const QUuid& id : ids)
-        texts.append(uuidText(id));
-    // No order carries a meaning, but one that stays is easier on whoever compares.
-    texts.sort();
-    m_defaults.setValue(keys::collapsedPaletteIds, texts);
+    amendCollapsedIds(m_defaults, ids, collapsed);
 }
 
 /// Edits a copy of the palette; where `edit` says that it has changed, stamps it and puts it in.

@@ -109,9 +109,9 @@ private:
     using PaletteEdit = std::function<bool(Palette&)>;
     using ScaleEdit = std::function<bool(PaletteScale&)>;
 
-    void seed(PalettePresets& presets);
-    void collapseAll();
-    void storeCollapsedIds(const QSet<QUuid>& ids);
+    enum class Stored { Known, Unknown };
+
+    void seed(PalettePresets& presets, Stored stored);
     bool editPalette(QUuid id, const PaletteEdit& edit);
     bool editScale(QUuid paletteId, QUuid scaleId, const ScaleEdit& edit);
 

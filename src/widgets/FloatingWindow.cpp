@@ -52,7 +52,9 @@ FloatingWindow::FloatingWindow(const Look& look)
 }
 
 void FloatingWindow::rememberFrame(UserDefaults& defaults, const QString& name, const QSize& size) {
-    if (const auto stored = storedWindowFrame(defaults, name)) {
+    const int refusedBefore = defaults.refusedReads();
+    const auto stored = storedWindowFrame(defaults, name);
+    if (stored) {
         const QRect frame = onScreens(*stored, availableScreens());
         resize(frame.size());
         move(frame.topLeft());
@@ -62,7 +64,8 @@ void FloatingWindow::rememberFrame(UserDefaults& defaults, const QString& name, 
             move(screen->availableGeometry().center() - QPoint(width() / 2, height() / 2));
     }
     m_placedAt = pos();
-    m_defaults = &defaults;
+    // A frame that couldn't be read isn't replaced by the one that stands in for it.
+    m_defaults = defaults.refusedReads() == refusedBefore ? &defaults : nullptr;
     m_frameName = name;
 }
 
