@@ -392,8 +392,10 @@ void UserPaletteStore::scheduleSave(PinValidation pins) {
     m_pendingSave = m_scheduler.after(saveDelay, [this] { flushPendingSave(); });
 }
 
-void UserPaletteStore::flushPendingSave() {
+void UserPaletteStore::flushPendingSave(PinValidation pins) {
     m_pendingSave.reset();
+    m_isPinValidationPending = m_isPinValidationPending || pins == PinValidation::Wanted;
+    validatePins();
     const auto ours = encodedPalettes(m_palettes);
     if (!ours)
         return;
@@ -410,6 +412,29 @@ void UserPaletteStore::flushPendingSave() {
     if (std::exchange(m_isPinValidationPending, false) || isOther)
         m_settings.validatePins(m_palettes);
     Q_EMIT didChange();
+}
+
+/// Before a save, where that is wanted, and once it is known what is stored: the seed in place of a
+/// library that couldn't be read must not cost its favourites.
+void UserPaletteStore::validatePins() {
+    if (!m_isPinValidationPending || takeOverStored() == Stored::Unknown)
+        return;
+    m_isPinValidationPending = false;
+    m_settings.validatePins(m_palettes);
+}
+
+/// Joins what another process has stored since the last look to what is here.
+UserPaletteStore::Stored UserPaletteStore::takeOverStored() {
+    const int refusedBefore = m_defaults.refusedReads();
+    const auto json = m_defaults.read<QByteArray>(keys::userPalettes);
+    if (m_defaults.refusedReads() != refusedBefore)
+        return Stored::Unknown;
+    const auto theirs = json && *json != m_kept.json ? PaletteForm::decoded(*json) : std::nullopt;
+    if (theirs) {
+        setPalettes(mergedLists<PaletteForm>(m_kept.items, m_palettes, *theirs));
+        m_kept = {*theirs, *json};
+    }
+    return Stored::Known;
 }
 
 QSet<QUuid> UserPaletteStore::collapsedPaletteIds() const {

@@ -84,14 +84,15 @@ public:
 
     enum class PinValidation { Skipped, Wanted };
     /// Saves 0.25 seconds from now; a new call restarts the wait. Once validation is wanted, the
-    /// next save brings the favourites in line with the palettes first.
+    /// next save brings the favourites in line with the palettes first, those that another process
+    /// has stored among them. While nobody can read what is stored, the favourites stay.
     void scheduleSave(PinValidation pins = PinValidation::Skipped);
     [[nodiscard]] bool hasPendingSave() const { return m_pendingSave != nullptr; }
     /// Saves now, also where nothing waits. What another process has stored since the last save is
     /// taken over with it: of a palette that both have changed, the copy modified later. A list
     /// that has no form in JSON is not written; what the disk refuses is tried again, for as long
     /// as it takes.
-    void flushPendingSave();
+    void flushPendingSave(PinValidation pins = PinValidation::Skipped);
 
     /// The palettes that show their header only; may hold ids of palettes that are gone.
     [[nodiscard]] QSet<QUuid> collapsedPaletteIds() const;
@@ -112,6 +113,8 @@ private:
     enum class Stored { Known, Unknown };
 
     void seed(PalettePresets& presets, Stored stored);
+    void validatePins();
+    Stored takeOverStored();
     bool editPalette(QUuid id, const PaletteEdit& edit);
     bool editScale(QUuid paletteId, QUuid scaleId, const ScaleEdit& edit);
 

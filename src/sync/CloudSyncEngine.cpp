@@ -267,8 +267,7 @@ void CloudSyncEngine::pullPalettes() {
     m_cloudPalettes.forgetDecoded();
     if (stampsOf(merged) != sides.local) {
         m_palettes.setPalettes(merged);
-        m_settings.validatePins(merged);
-        m_palettes.flushPendingSave();
+        m_palettes.flushPendingSave(UserPaletteStore::PinValidation::Wanted);
     }
     setBaseline(merged);
 }

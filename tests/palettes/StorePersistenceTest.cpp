@@ -122,6 +122,37 @@ TEST_F(PaletteStore, ValidatesPinsOnceForEachWish) {
     EXPECT_EQ(settings().pinnedColors().size(), 5);
 }
 
+TEST_F(PaletteStore, ValidatesPinsBeforeTheSaveIsWritten) {
+    pinEverything();
+    store().setPalettes({m_land});
+    qsizetype pinsAtTheWrite = -1;
+    QObject::connect(&defaults(), &UserDefaults::didChange, [&](const QString& key) {
+        if (key == keys::userPalettes)
+            pinsAtTheWrite = settings().pinnedColors().size();
+    });
+    store().flushPendingSave(UserPaletteStore::PinValidation::Wanted);
+    EXPECT_EQ(pinsAtTheWrite, 1);
+}
+
+TEST_F(PaletteStore, ValidatesPinsThoughTheListHasNoFormInJson) {
+    pinEverything();
+    m_land.setLastModified(ReferenceTime{std::numeric_limits<double>::infinity()});
+    store().setPalettes({m_land});
+    store().scheduleSave(UserPaletteStore::PinValidation::Wanted);
+    scheduler().advance(250);
+    EXPECT_EQ(m_saves, 0);
+    EXPECT_EQ(settings().pinnedColors().size(), 1);
+}
+
+TEST_F(PaletteStore, ValidatesPinsThoughTheDiskRefusesTheSave) {
+    pinEverything();
+    defaults().setRefusing(true);
+    store().setPalettes({m_land});
+    store().flushPendingSave(UserPaletteStore::PinValidation::Wanted);
+    EXPECT_EQ(m_saves, 0);
+    EXPECT_EQ(settings().pinnedColors().size(), 1);
+}
+
 TEST_F(PaletteStore, ReplacesTheListAsItIsWithNoStampAndNoSave) {
     const Palette other = makePalette("Other");
     store().setPalettes({other});

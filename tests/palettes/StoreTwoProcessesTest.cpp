@@ -123,6 +123,23 @@ TEST_F(StoreTwoProcesses, FavoritesOfBothStay) {
     EXPECT_EQ(next.settings.pinnedColors().last()->paletteName, QStringLiteral("Sea"));
 }
 
+TEST_F(StoreTwoProcesses, AValidationOfFavoritesSparesThoseOfPalettesThatTheOtherAdded) {
+    Program one(m_path);
+    Program other(m_path);
+    other.store.addPalette(makePalette("Theirs", {makeScale("Scale", {"blue"})}));
+    other.pin("Theirs");
+    other.store.flushPendingSave();
+    other.settings.flushPendingPins();
+    one.settings.reloadFromDefaults();
+    ASSERT_EQ(one.settings.pinnedColors().size(), 1);
+    one.store.appendPalette(makePalette("Ours", {makeScale("Scale", {"red"})}));
+    one.scheduler.advance(500);
+    EXPECT_EQ(one.settings.pinnedColors().size(), 1);
+    const Program next(m_path);
+    EXPECT_EQ(next.settings.pinnedColors().size(), 1);
+    EXPECT_EQ(next.names(), QStringLiteral("Sea,Land,Sky,Ours,Theirs"));
+}
+
 TEST_F(StoreTwoProcesses, ALibraryThatCouldNotBeReadAtTheStartIsNotReplacedByTheSeed) {
     {
         Program before(m_path);
