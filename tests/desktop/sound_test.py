@@ -34,7 +34,7 @@ class SoundProgram(unittest.TestCase):
 
     def start(self, **variables):
         program = subprocess.Popen([SOUND_PROGRAM], env={**self.server.environment, **variables},
-                                   stdin=subprocess.PIPE, stderr=subprocess.DEVNULL)
+                                   stdin=subprocess.PIPE)
         self.addCleanup(program.wait)
         self.addCleanup(program.kill)
         self.addCleanup(program.stdin.close)

@@ -74,5 +74,7 @@ int main(int argc, char** argv) {
     ::alarm(dropshade::longestHangSeconds);
     QCoreApplication application(argc, argv);
     const dropshade::SoundProgram program;
-    return QCoreApplication::exec();
+    // Now and then the toolkit takes its connection to the server down beneath the thread that reads
+    // from it. There is nothing to take down that the kernel doesn't.
+    ::_exit(QCoreApplication::exec());
 }
