@@ -3,6 +3,7 @@
 #include "app/MenuColors.h"
 
 #include "app/SettingsReaders.h"
+#include "palettes/PaletteSearch.h"
 
 #include <QHash>
 #include <QTextBoundaryFinder>
@@ -17,24 +18,17 @@ namespace {
 
 constexpr int longestTitle = 48;
 constexpr int decimalPlacesOfRecents = 2;
-/// The place of what is not there.
+/// The place of what is not there, after all others.
 constexpr qsizetype nowhere = std::numeric_limits<qsizetype>::max();
 
 /// Where a pin's swatch is in the palette.
 using Place = std::tuple<qsizetype, qsizetype, ReferenceTime>;
 
-template <typename Item>
-qsizetype indexOf(const QList<Item>& items, const QUuid& id) {
-    const auto found = std::find_if(items.begin(), items.end(),
-                                    [&id](const Item& item) { return item.id() == id; });
-    return found == items.end() ? nowhere : found - items.begin();
-}
-
 Place placeOf(const PinnedColor& pin, const Palette* palette) {
-    const qsizetype scale = palette ? indexOf(palette->scales(), pin->scaleId) : nowhere;
+    const qsizetype scale = palette ? indexOfId(palette->scales(), pin->scaleId) : -1;
     const qsizetype swatch =
-        scale == nowhere ? nowhere : indexOf(palette->scales()[scale].swatches(), pin->swatchId);
-    return {scale, swatch, pin->pinnedAt};
+        scale < 0 ? -1 : indexOfId(palette->scales().at(scale).swatches(), pin->swatchId);
+    return {scale < 0 ? nowhere : scale, swatch < 0 ? nowhere : swatch, pin->pinnedAt};
 }
 
 QList<FavoriteRow> sortedRows(const QList<PinnedColor>& pins, const Palette* palette,
@@ -63,10 +57,10 @@ QList<RecentRow> recentRows(const UserDefaults& defaults) {
     const ColorFormat format = colorFormat(defaults);
     FormatOptions options = formatOptions(defaults);
     options.decimalPlaces = decimalPlacesOfRecents;
-    const QList<RecentColor> colors = loadRecentColors(defaults).first(
-        std::min<qsizetype>(recentColorsLimit(defaults), loadRecentColors(defaults).size()));
+    const QList<RecentColor> colors = loadRecentColors(defaults);
     QList<RecentRow> rows;
-    for (const RecentColor& color : colors)
+    for (const RecentColor& color :
+         colors.first(std::min<qsizetype>(recentColorsLimit(defaults), colors.size())))
         rows.append({QString::fromStdString(formatted(color.color(), format, options)), color});
     return rows;
 }

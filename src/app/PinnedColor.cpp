@@ -3,11 +3,11 @@
 #include "app/PinnedColor.h"
 
 #include "palettes/ColorText.h"
+#include "palettes/PaletteSearch.h"
 #include "json/JsonDocument.h"
 
 #include <QHash>
 
-#include <algorithm>
 #include <utility>
 
 namespace dropshade {
@@ -70,17 +70,10 @@ void write(JsonWriter& json, const PinnedColor& pin) {
     json.endObject();
 }
 
-template <typename Item>
-const Item* itemWithId(const QList<Item>& items, const QUuid& id) {
-    const auto found = std::find_if(items.cbegin(), items.cend(),
-                                    [&id](const Item& item) { return item.id() == id; });
-    return found == items.cend() ? nullptr : &*found;
-}
-
 /// The pin's record as its palette has the swatch now, or nothing where it hasn't.
 std::optional<PinRecord> presentRecord(const PinnedColor& pin, const Palette& palette) {
-    const PaletteScale* scale = itemWithId(palette.scales(), pin->scaleId);
-    const PaletteSwatch* swatch = scale ? itemWithId(scale->swatches(), pin->swatchId) : nullptr;
+    const auto scale = itemWithId(palette.scales(), pin->scaleId);
+    const auto swatch = scale ? itemWithId(scale->swatches(), pin->swatchId) : std::nullopt;
     if (!swatch)
         return std::nullopt;
     PinRecord record = pin.record();
