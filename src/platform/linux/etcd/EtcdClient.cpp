@@ -91,15 +91,14 @@ void EtcdClient::logIn(const Completion& completion) {
             this, [completion] { completion(EtcdReply()); }, Qt::QueuedConnection);
         return;
     }
-    postOnce(
-        "/v3/auth/authenticate", etcd::loginRequest(m_account.user, m_password),
-        [this, completion](EtcdReply reply) {
-            const auto token = etcd::tokenIn(reply.body);
-            if (reply.problem == Problem::None && !token)
-                reply = {Problem::Unreachable, tr("The server doesn't answer as etcd does."), {}};
-            m_token = token.value_or(QByteArray());
-            completion(reply);
-        });
+    postOnce("/v3/auth/authenticate", etcd::loginRequest(m_account.user, m_password),
+             [this, completion](EtcdReply reply) {
+                 const auto token = etcd::tokenIn(reply.body);
+                 if (reply.problem == Problem::None && !token)
+                     reply = {Problem::Unreachable, strangeAnswerWords(), {}};
+                 m_token = token.value_or(QByteArray());
+                 completion(reply);
+             });
 }
 
 void EtcdClient::post(const char* path, const QByteArray& body, const Completion& completion) {

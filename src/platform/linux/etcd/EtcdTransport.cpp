@@ -280,7 +280,6 @@ void EtcdTransport::checkLiveness() {
 }
 
 void EtcdTransport::send(const QList<OutgoingEntry>& entries) {
-    m_isSending = true;
     m_chunks = {entries};
     m_results.clear();
     sendNext();
@@ -359,7 +358,6 @@ void EtcdTransport::report(const QList<OutgoingEntry>& chunk, const EtcdTransact
 }
 
 void EtcdTransport::endSending() {
-    m_isSending = false;
     Q_EMIT sendEnded(std::exchange(m_results, {}));
 }
 

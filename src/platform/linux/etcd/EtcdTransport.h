@@ -83,7 +83,6 @@ private:
     QTimer m_livenessTimer;
     QTimer m_fullTimer;
 
-    bool m_isSending = false;
     /// What of the present send is still to go, in parts that the server takes.
     QList<QList<OutgoingEntry>> m_chunks;
     QList<SendResult> m_results;
