@@ -5,8 +5,6 @@
 #include "contrast/ContrastDisplay.h"
 #include "contrast/ContrastMetrics.h"
 
-#include <cmath>
-
 namespace dropshade {
 
 namespace {
@@ -96,16 +94,18 @@ QList<ContrastFixGroup> ContrastVerdicts::fixGroups(ContrastAlgorithm algorithm,
                                                     double lc) {
     if (algorithm == ContrastAlgorithm::apca) {
         const auto fix = [lc](const QString& title, double wanted) {
-            return ContrastFix{title, wanted, std::abs(lc) < wanted};
+            return ContrastFix{title, wanted, !passesLc(lc, wanted)};
         };
         return {{tr("Fix for APCA", "Action menu section"),
-                 {fix(tr("Normal text (Lc 75)", "APCA fix item — normal/body text minimum"), 75.0),
-                  fix(tr("Large text (Lc 45)", "APCA fix item — large text minimum"), 45.0),
+                 {fix(tr("Normal text (Lc 75)", "APCA fix item — normal/body text minimum"),
+                      apcaTiers[0].minimumLc),
+                  fix(tr("Large text (Lc 45)", "APCA fix item — large text minimum"),
+                      apcaTiers[1].minimumLc),
                   fix(tr("Graphics and UI (Lc 30)", "APCA fix item — graphics and UI minimum"),
-                      30.0)}}};
+                      apcaTiers[2].minimumLc)}}};
     }
     const auto fix = [ratio](const QString& title, double wanted) {
-        return ContrastFix{title, wanted, ratio < wanted};
+        return ContrastFix{title, wanted, !passesRatio(ratio, wanted)};
     };
     return {
         {tr("Fix for Normal Text", "Action menu section"),
