@@ -3,7 +3,7 @@
 #include "palettes/PalettesStatusBar.h"
 
 #include "palettes/StatusText.h"
-#include "palettes/SwatchPainting.h"
+#include "widgets/ColorConversion.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
 #include "widgets/TypeScale.h"
@@ -45,7 +45,7 @@ void PalettesStatusBar::paintSwatch(QPainter& painter, const PaletteSwatch& swat
     constexpr double chip = metrics::spineChip;
     const double middle = height() / 2.0;
     drawColor(painter, QRectF(m_margin, middle - chip / 2.0, chip, chip), metrics::radiusCell,
-              screenColor(swatch.color()), m_look.theme());
+              drawable(swatch.color()), m_look.theme());
     const QFont labelFont = textFont(TextStyle::Strong);
     const QFont valueFont = textFont(TextStyle::Value);
     const auto advance = [](const QFont& font) {

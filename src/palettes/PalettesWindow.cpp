@@ -14,9 +14,9 @@
 #include "palettes/PalettesStatusBar.h"
 #include "palettes/PalettesTopBar.h"
 #include "palettes/PresetPickerSheet.h"
-#include "palettes/SwatchPainting.h"
 #include "palettes/SwatchPopover.h"
 #include "widgets/AlertWindow.h"
+#include "widgets/ColorConversion.h"
 #include "widgets/Metrics.h"
 #include "widgets/ScrollArea.h"
 #include "widgets/ToolTip.h"
@@ -38,7 +38,7 @@ constexpr QSize leastSize(160, 280);
 /// The colour itself, and its text in the format of the settings.
 QMimeData* mimeDataOf(const PaletteSwatch& swatch, const UserDefaults& defaults) {
     auto* data = new QMimeData;
-    data->setColorData(screenColor(swatch.color()));
+    data->setColorData(drawable(swatch.color()));
     data->setText(QString::fromStdString(
         formatted(swatch.color(), colorFormat(defaults), formatOptions(defaults))));
     return data;
@@ -284,7 +284,7 @@ void PalettesWindow::ask(const DeleteQuestion& question) {
                 question.message,
                 {{cancel, Alert::Role::Cancel}, {destroy, Alert::Role::Destructive}}};
     if (question.swatch)
-        alert.color = screenColor(question.swatch->color());
+        alert.color = drawable(question.swatch->color());
     AlertWindow::ask(look(), this, alert, [confirmed = question.confirmed](qsizetype button) {
         if (button == 1)
             confirmed();

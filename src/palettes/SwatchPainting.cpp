@@ -17,10 +17,6 @@ constexpr double phantomLine = 1.5;
 
 } // namespace
 
-QColor screenColor(const SRGBColor& color) {
-    return drawable(color);
-}
-
 void drawIcon(QPainter& painter, Icon icon, const QColor& ink, const QPointF& center, int side) {
     const double ratio = painter.device()->devicePixelRatioF();
     const QPixmap pixmap = iconPixmap(icon, ink, side, ratio);
@@ -31,9 +27,9 @@ void drawIcon(QPainter& painter, Icon icon, const QColor& ink, const QPointF& ce
 
 void drawSwatch(QPainter& painter, const QRectF& area, const PaletteSwatch& swatch, bool isFavorite,
                 const Theme& theme) {
-    drawColor(painter, area, metrics::radiusCell, screenColor(swatch.color()), theme);
+    drawColor(painter, area, metrics::radiusCell, drawable(swatch.color()), theme);
     if (isFavorite)
-        drawIcon(painter, Icon::StarFill, screenColor(swatch.pinTint()), area.center(),
+        drawIcon(painter, Icon::StarFill, drawable(swatch.pinTint()), area.center(),
                  qRound(area.width() * metrics::favouriteScale));
 }
 
@@ -48,7 +44,7 @@ void drawSpine(QPainter& painter, const QRectF& area, const QList<PaletteSwatch>
     for (qsizetype index = 0; index < swatches.size(); ++index)
         painter.fillRect(
             QRectF(area.left() + chip * double(index), area.top(), chip, area.height()),
-            screenColor(swatches.at(index).color()));
+            drawable(swatches.at(index).color()));
     painter.restore();
     strokeEdge(painter, area, metrics::radiusCell, theme.lineSwatch);
 }

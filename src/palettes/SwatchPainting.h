@@ -11,8 +11,6 @@
 
 namespace dropshade {
 
-[[nodiscard]] QColor screenColor(const SRGBColor& color);
-
 /// An icon of `side` logical pixels around `center`, on whole device pixels.
 void drawIcon(QPainter& painter, Icon icon, const QColor& ink, const QPointF& center, int side);
 

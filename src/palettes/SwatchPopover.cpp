@@ -4,7 +4,7 @@
 
 #include "ColorSelector/SelectorPanel.h"
 #include "palettes/PopoverButtons.h"
-#include "palettes/SwatchPainting.h"
+#include "widgets/ColorConversion.h"
 #include "widgets/ColorWell.h"
 #include "widgets/Label.h"
 #include "widgets/Metrics.h"
@@ -75,7 +75,7 @@ void SwatchPopover::addValueRow(QVBoxLayout& column) {
     const QString title = tr("Value");
     addLabel(column, title);
     m_well = new ColorWell(look(), title, wellSide, content());
-    m_well->setColor(screenColor(m_edit->color()));
+    m_well->setColor(drawable(m_edit->color()));
     m_value = new TextField(look(), TextField::Content::Value, content());
     m_value->setAccessibleName(title);
     m_value->setText(m_edit->valueText());
@@ -131,7 +131,7 @@ void SwatchPopover::toggleSelector() {
 }
 
 void SwatchPopover::followColor() {
-    m_well->setColor(screenColor(m_edit->color()));
+    m_well->setColor(drawable(m_edit->color()));
     // What the user is dragging has the hue that a grey has lost.
     const HSBComponents shown = hsbComponents(m_edit->color());
     const bool isOther =
