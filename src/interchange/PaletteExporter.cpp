@@ -83,36 +83,20 @@ void PaletteExporter::askWhere(const Request& request) {
     m_panels.save(tr("Export Palette", "Title of the panel that asks where to write a palette"),
                   suggestedFileName(request.palette.name()), kind,
                   [this, request](const std::optional<QString>& path) {
-                      if (path)
-                          enqueue({*path, contentOf(request.palette, request.format)});
+                      if (!path)
+                          return;
+                      m_line.append([this, path = *path,
+                                     content = contentOf(request.palette, request.format)](
+                                        const std::stop_token&) -> BackgroundQueue::Landing {
+                          if (const auto failure = failureToWrite(path, content))
+                              return [this, failure] { tell(*failure); };
+                          return {};
+                      });
                   });
 }
 
-void PaletteExporter::enqueue(File file) {
-    m_files.push_back(std::move(file));
-    if (m_files.size() == 1)
-        writeFirst();
-}
-
-void PaletteExporter::writeFirst() {
-    m_writing = m_backgroundQueue.run([this, file = m_files.front()](
-                                          const std::stop_token&) -> BackgroundQueue::Landing {
-        return [this, failure = failureToWrite(file.path, file.content)] { firstDidEnd(failure); };
-    });
-}
-
-void PaletteExporter::firstDidEnd(const std::optional<QString>& failure) {
-    m_files.pop_front();
-    if (!m_files.empty())
-        writeFirst();
-    if (failure)
-        tell(*failure);
-    else if (m_files.empty() && m_whenWritten)
-        std::exchange(m_whenWritten, nullptr)();
-}
-
 void PaletteExporter::tell(const QString& failure) {
-    m_whenWritten = nullptr;
+    m_line.forgetWaiting();
     const QString title = tr("Couldn't export palette", "Export error title");
     if (m_isAtEnd)
         qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(failure));
@@ -120,17 +104,9 @@ void PaletteExporter::tell(const QString& failure) {
         m_alerts.warn(title, failure);
 }
 
-void PaletteExporter::whenWritten(std::function<void()> action) {
-    if (m_files.empty())
-        action();
-    else
-        m_whenWritten = std::move(action);
-}
-
 void PaletteExporter::finish() {
     m_isAtEnd = true;
-    while (!m_files.empty())
-        m_backgroundQueue.finish();
+    m_line.finish();
 }
 
 QString PaletteExporter::suggestedFileName(const QString& paletteName) {

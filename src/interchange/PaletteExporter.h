@@ -5,13 +5,12 @@
 #include "interchange/PaletteExportFormat.h"
 #include "palettes/Palette.h"
 #include "platform/Alerts.h"
-#include "platform/BackgroundQueue.h"
+#include "platform/BackgroundLine.h"
 #include "platform/FilePanels.h"
 #include "platform/Scheduler.h"
 
 #include <QCoreApplication>
 
-#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -36,8 +35,7 @@ public:
     /// drops the exports that haven't begun.
     PaletteExporter(Scheduler& scheduler, BackgroundQueue& backgroundQueue, FilePanels& panels,
                     Alerts& alerts)
-        : m_scheduler(scheduler), m_backgroundQueue(backgroundQueue), m_panels(panels),
-          m_alerts(alerts) {}
+        : m_scheduler(scheduler), m_panels(panels), m_alerts(alerts), m_line(backgroundQueue) {}
 
     /// Asks where to write the palette, and writes it as it is now, whatever happens to it while
     /// the panel is up. Returns at once: the panel comes when the menu that asked for it has gone.
@@ -46,7 +44,7 @@ public:
 
     /// Calls `action` as soon as no file is on its way: at once where none is, and never where one
     /// fails, since the user is to see its alert. A later call takes the place of an earlier one.
-    void whenWritten(std::function<void()> action);
+    void whenWritten(std::function<void()> action) { m_line.whenEmpty(std::move(action)); }
 
     /// Has the files that are on their way written before it returns. For the end of the program: a
     /// failure goes to the log.
@@ -66,28 +64,16 @@ private:
         PaletteExportFormat format;
     };
 
-    /// A file to be written, whose bytes any thread can make.
-    struct File {
-        QString path;
-        std::function<QByteArray()> content;
-    };
-
     void askWhere(const Request& request);
-    void enqueue(File file);
-    void writeFirst();
-    void firstDidEnd(const std::optional<QString>& failure);
     void tell(const QString& failure);
 
     Scheduler& m_scheduler;
-    BackgroundQueue& m_backgroundQueue;
     FilePanels& m_panels;
     Alerts& m_alerts;
     std::vector<Request> m_requests;
     std::unique_ptr<ScheduledWork> m_next;
-    /// The first is being written.
-    std::deque<File> m_files;
-    std::unique_ptr<BackgroundWork> m_writing;
-    std::function<void()> m_whenWritten;
+    /// A task for each file.
+    BackgroundLine m_line;
     bool m_isAtEnd = false;
 };
 
