@@ -63,7 +63,11 @@ AppDelegate::AppDelegate(Platform platform)
       m_copier(*m_platform.defaults, *m_platform.pasteboard, m_soundService),
       m_statusMenu(*m_platform.statusItem, menuSources()),
       m_paletteExporter(*m_platform.scheduler, *m_platform.backgroundQueue, *m_platform.filePanels,
-                        *m_platform.alerts) {}
+                        *m_platform.alerts),
+      m_paletteImports(*m_platform.scheduler, *m_platform.backgroundQueue,
+                       {[this](const Palette& palette) { paletteStore().addFreshPalette(palette); },
+                        [this](const QString& reason) { refuseImport(reason); }}),
+      m_imageLoads(std::in_place, *m_platform.backgroundQueue) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -138,6 +142,10 @@ void AppDelegate::applicationWillTerminate() {
     m_paletteLoad.reset();
     m_presetRequest.reset();
     m_hostWait.reset();
+    m_imageLoads.reset();
+    m_isTerminating = true;
+    // What the user has brought in is saved with the rest.
+    m_paletteImports.finish();
     // The store first: its save may bring the pins in line.
     if (m_paletteStore && m_paletteStore->hasPendingSave())
         m_paletteStore->flushPendingSave();
@@ -155,9 +163,11 @@ void AppDelegate::applicationWillTerminate() {
     m_paletteExporter.finish();
 }
 
-/// Once all exports are written. Where one fails the program stays, so that its alert is read.
+/// Once all imports have come and all exports are written. Where one fails the program stays, so
+/// that its alert is read.
 void AppDelegate::quit() {
-    m_paletteExporter.whenWritten([this] { Q_EMIT quitRequested(); });
+    m_paletteImports.whenImported(
+        [this] { m_paletteExporter.whenWritten([this] { Q_EMIT quitRequested(); }); });
 }
 
 void AppDelegate::updateStatusIcon() {

@@ -17,7 +17,7 @@
 #include "color/ColorFormat.h"
 #include "imagepalette/NewPaletteFromImageWindowController.h"
 #include "interchange/PaletteExporter.h"
-#include "interchange/PaletteImporter.h"
+#include "interchange/PaletteImports.h"
 #include "palettes/PalettesWindowController.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/Platform.h"
@@ -67,7 +67,8 @@ public:
                                  std::optional<QString> name = std::nullopt);
     /// Brings up the palettes, then the panel that asks for a file.
     void openNewPaletteFromFile();
-    /// Brings up the palettes and puts the file's palette in front of them, or tells why not.
+    /// Brings up the palettes and puts the file's palette in front of them as soon as it is read,
+    /// or tells why not.
     void importPalette(const QString& path);
     /// The same for what a drop brings: see `PaletteImporter::decode`.
     void importPalette(const QByteArray& data, const QString& fileExtension,
@@ -132,7 +133,8 @@ private:
     void setSyncing(bool enabled);
     [[nodiscard]] ColorWindowSurroundings colorWindowSurroundings();
     void finishPick(const std::optional<SRGBColor>& color);
-    void importPalette(const std::function<Palette(const PaletteImporter&)>& load);
+    void refuseImport(const QString& reason);
+    void loadImage(std::function<std::optional<LoadedImage>()> load, const QString& name);
     [[nodiscard]] std::optional<QString> palettesShortcutText() const;
     PalettesWindowController& palettesController();
     NewPaletteFromImageWindowController& newPaletteFromImageController();
@@ -161,6 +163,9 @@ private:
     ColorCopier m_copier;
     StatusMenu m_statusMenu;
     PaletteExporter m_paletteExporter;
+    PaletteImports m_paletteImports;
+    /// Images on their way to the sheet. Nobody needs one that hasn't come when the program ends.
+    std::optional<BackgroundLine> m_imageLoads;
     std::unique_ptr<ColorPickerWindowController> m_colorPickerController;
     std::unique_ptr<ContrastWindowController> m_contrastController;
     std::unique_ptr<UpdateDialogs> m_updateDialogs;
@@ -175,6 +180,7 @@ private:
     /// Waits for a status area to come up, as long as there is none.
     std::unique_ptr<ScheduledWork> m_hostWait;
     bool m_isPicking = false;
+    bool m_isTerminating = false;
 };
 
 } // namespace dropshade

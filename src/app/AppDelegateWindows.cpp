@@ -104,24 +104,22 @@ void AppDelegate::openNewPaletteFromFile() {
 }
 
 void AppDelegate::importPalette(const QString& path) {
-    importPalette([&path](const PaletteImporter& importer) { return importer.load(path); });
+    openPalettes();
+    m_paletteImports.importFile(path);
 }
 
 void AppDelegate::importPalette(const QByteArray& data, const QString& fileExtension,
                                 const std::optional<QString>& suggestedName) {
-    importPalette([&](const PaletteImporter& importer) {
-        return importer.decode(data, fileExtension, suggestedName);
-    });
+    openPalettes();
+    m_paletteImports.importData(data, fileExtension, suggestedName);
 }
 
-void AppDelegate::importPalette(const std::function<Palette(const PaletteImporter&)>& load) {
-    openPalettes();
-    try {
-        paletteStore().addPalette(load(PaletteImporter(*m_platform.scheduler)));
-    } catch (const PaletteImporterError& error) {
-        m_platform.alerts->warn(tr("Couldn't import palette", "Import error title"),
-                                error.description());
-    }
+void AppDelegate::refuseImport(const QString& reason) {
+    const QString title = tr("Couldn't import palette", "Import error title");
+    if (m_isTerminating)
+        qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(reason));
+    else
+        m_platform.alerts->warn(title, reason);
 }
 
 void AppDelegate::openNewPaletteFromPreset() {
@@ -144,13 +142,27 @@ void AppDelegate::createPaletteFromImage() {
 }
 
 void AppDelegate::createPaletteFromImageFile(const QString& path) {
-    if (auto image = ImageLoader::loadFile(path))
-        openNewPaletteFromImage(std::move(image), nameWithoutExtension(path));
+    loadImage([path] { return ImageLoader::loadFile(path); }, nameWithoutExtension(path));
 }
 
 void AppDelegate::createPaletteFromImageData(const QByteArray& data, const QString& name) {
-    if (auto image = ImageLoader::loadData(data))
-        openNewPaletteFromImage(std::move(image), name);
+    loadImage([data] { return ImageLoader::loadData(data); }, name);
+}
+
+/// Whoever has closed the palettes meanwhile doesn't want them back for the sheet over them.
+void AppDelegate::loadImage(std::function<std::optional<LoadedImage>()> load, const QString& name) {
+    if (!m_imageLoads)
+        return;
+    m_imageLoads->append(
+        [this, load = std::move(load), name](const std::stop_token&) -> BackgroundQueue::Landing {
+            auto image = load();
+            if (!image)
+                return {};
+            return [this, name, image = *std::move(image)] {
+                if (palettesController().isShown())
+                    openNewPaletteFromImage(image, name);
+            };
+        });
 }
 
 void AppDelegate::createPaletteFromFile() {

@@ -24,15 +24,16 @@ NewPaletteFromImageModel::NewPaletteFromImageModel(const Surroundings& surroundi
                                                    std::optional<LoadedImage> initialImage,
                                                    std::optional<QString> initialFilename)
     : m_surroundings(surroundings), m_initialImage(std::move(initialImage)),
-      m_initialFilename(std::move(initialFilename)), m_lastAutoName(tidiedName(m_initialFilename)) {
+      m_initialFilename(std::move(initialFilename)), m_lastAutoName(tidiedName(m_initialFilename)),
+      m_loads(std::in_place, surroundings.backgroundQueue) {
     m_paletteName = m_lastAutoName.value_or(QString());
 }
 
 NewPaletteFromImageModel::~NewPaletteFromImageModel() = default;
 
 void NewPaletteFromImageModel::appear() {
-    if (auto image = std::exchange(m_initialImage, std::nullopt))
-        load(*std::move(image), m_initialFilename);
+    if (const auto image = std::exchange(m_initialImage, std::nullopt))
+        load(*image, m_initialFilename);
 }
 
 std::vector<QuantizedColor> NewPaletteFromImageModel::sortedSwatches() const {
@@ -65,9 +66,15 @@ void NewPaletteFromImageModel::setDropTargeted(bool targeted) {
         Q_EMIT isDropTargetedDidChange();
 }
 
-void NewPaletteFromImageModel::load(LoadedImage image, const std::optional<QString>& filename) {
-    setErrorMessage(std::nullopt);
-    m_image = std::move(image);
+void NewPaletteFromImageModel::load(const LoadedImage& image,
+                                    const std::optional<QString>& filename) {
+    take(image, pixelBufferOf(image), filename);
+}
+
+void NewPaletteFromImageModel::take(const LoadedImage& image, std::optional<PixelBuffer> pixels,
+                                    const std::optional<QString>& filename) {
+    m_image = image;
+    m_pixelBuffer = std::move(pixels);
     m_sourceFilename = filename;
     const bool isReplaceable = m_paletteName.trimmed().isEmpty() || m_lastAutoName == m_paletteName;
     const auto autoName = tidiedName(filename);
@@ -76,30 +83,47 @@ void NewPaletteFromImageModel::load(LoadedImage image, const std::optional<QStri
         m_lastAutoName = autoName;
         setPaletteName(*autoName);
     }
-    buildPixels();
+    if (m_pixelBuffer)
+        setErrorMessage(std::nullopt);
+    else
+        //: Shown where an image is one, but has no pixels to take colours from.
+        setErrorMessage(tr("Couldn't read this image."));
     Q_EMIT imageDidChange();
     recompute();
 }
 
+void NewPaletteFromImageModel::decode(const Source& source) {
+    m_loads->append([this, source](const std::stop_token&) -> BackgroundQueue::Landing {
+        auto image = ImageLoader::loadData(source.data);
+        auto name = source.nameOfData;
+        if (!image && source.file) {
+            image = ImageLoader::loadFile(*source.file);
+            name = nameWithoutExtension(*source.file);
+        }
+        if (image)
+            return [this, image = *image, pixels = pixelBufferOf(*image), name]() mutable {
+                take(image, std::move(pixels), name);
+            };
+        return [this, complaint = source.complaint] {
+            if (complaint)
+                setErrorMessage(complaint);
+        };
+    });
+}
+
 void NewPaletteFromImageModel::loadFile(const QString& path) {
-    if (auto image = ImageLoader::loadFile(path))
-        load(*std::move(image), nameWithoutExtension(path));
-    else
-        //: Shown where a file that was chosen, pasted or dropped is not an image.
-        setErrorMessage(tr("Unsupported image format."));
+    decode({{}, {}, path, unsupportedFormat()});
 }
 
 void NewPaletteFromImageModel::paste() {
-    const QMimeData* content = m_surroundings.pasteboard.content();
-    if (content) {
-        const ImageOffer offer(*content);
-        if (auto image = ImageLoader::loadData(offer.imageData()))
-            return load(*std::move(image), std::nullopt);
-        if (const auto file = offer.file())
-            return loadFile(*file);
-    }
     //: Shown after a paste.
-    setErrorMessage(tr("No image on the clipboard."));
+    const QString nothing = tr("No image on the clipboard.");
+    const QMimeData* content = m_surroundings.pasteboard.content();
+    if (!content)
+        return decode({{}, {}, {}, nothing});
+    const ImageOffer offer(*content);
+    const auto file = offer.file();
+    decode({offer.imageData(), {}, file, file ? unsupportedFormat() : nothing});
 }
 
 bool NewPaletteFromImageModel::accepts(const QMimeData& content) {
@@ -111,14 +135,15 @@ void NewPaletteFromImageModel::drop(const QMimeData& content) {
     const ImageOffer offer(content);
     if (const auto file = offer.file())
         return loadFile(*file);
-    auto image = ImageLoader::loadData(offer.imageData());
-    if (!image)
-        return;
     const auto name = offer.suggestedName();
-    load(*std::move(image), name ? std::optional(nameWithoutExtension(*name)) : std::nullopt);
+    decode({offer.imageData(),
+            name ? std::optional(nameWithoutExtension(*name)) : std::nullopt,
+            {},
+            {}});
 }
 
 void NewPaletteFromImageModel::removeImage() {
+    m_loads.emplace(m_surroundings.backgroundQueue);
     m_quantizationTask.reset();
     m_image.reset();
     m_sourceFilename.reset();
@@ -141,16 +166,14 @@ void NewPaletteFromImageModel::createPalette() {
                                m_surroundings.scheduler.now()));
 }
 
+QString NewPaletteFromImageModel::unsupportedFormat() {
+    //: Shown where a file that was chosen, pasted or dropped is not an image.
+    return tr("Unsupported image format.");
+}
+
 QString NewPaletteFromImageModel::untitledPaletteName() {
     //: The name of a palette that was made from an image and given no other
     return tr("Untitled Palette");
-}
-
-void NewPaletteFromImageModel::buildPixels() {
-    m_pixelBuffer = m_image ? pixelBufferOf(*m_image) : std::nullopt;
-    if (m_image && !m_pixelBuffer)
-        //: Shown where an image is one, but has no pixels to take colours from.
-        setErrorMessage(tr("Couldn't read this image."));
 }
 
 void NewPaletteFromImageModel::recompute() {

@@ -6,6 +6,7 @@
 #include "imagepalette/ImageQuantizer.h"
 #include "imagepalette/QuantizationTask.h"
 #include "palettes/Palette.h"
+#include "platform/BackgroundLine.h"
 #include "platform/Pasteboard.h"
 
 #include <QObject>
@@ -71,8 +72,12 @@ public:
     void setDropTargeted(bool targeted);
 
     /// Takes the image, and its name for the palette's unless the user has typed one.
-    void load(LoadedImage image, const std::optional<QString>& filename);
-    /// The same with the file's, or says that it is none and leaves all as it was.
+    void load(const LoadedImage& image, const std::optional<QString>& filename);
+
+    // These decode beside the main thread, one image after another, and return at once. An image
+    // that is removed takes with it those that have not come yet.
+
+    /// Loads the file's image, or says that it is none and leaves all as it was.
     void loadFile(const QString& path);
     /// The same with what is on the clipboard.
     void paste();
@@ -96,7 +101,20 @@ Q_SIGNALS:
     void paletteMade(const Palette& palette);
 
 private:
-    void buildPixels();
+    /// Where an image may be, in the order in which it is looked for.
+    struct Source {
+        QByteArray data;
+        /// Without its extension.
+        std::optional<QString> nameOfData;
+        std::optional<QString> file;
+        /// Where it is nowhere.
+        std::optional<QString> complaint;
+    };
+
+    [[nodiscard]] static QString unsupportedFormat();
+    void decode(const Source& source);
+    void take(const LoadedImage& image, std::optional<PixelBuffer> pixels,
+              const std::optional<QString>& filename);
     void recompute();
     void setSwatches(std::vector<QuantizedColor> swatches);
     void setProcessing(bool processing);
@@ -119,6 +137,7 @@ private:
     std::optional<QString> m_errorMessage;
     bool m_isDropTargeted = false;
     std::unique_ptr<QuantizationTask> m_quantizationTask;
+    std::optional<BackgroundLine> m_loads;
 };
 
 } // namespace dropshade

@@ -76,8 +76,7 @@ Palette PaletteImporter::load(const QString& path) const {
     const QString extension = file.suffix().toLower();
     requireSupported(extension);
     try {
-        return named(decoded(WholeFile::read(path), extension, m_clock.now()),
-                     file.completeBaseName());
+        return named(decoded(WholeFile::read(path), extension, m_now), file.completeBaseName());
     } catch (const FileError& error) {
         throw PaletteImporterError(Kind::malformedFile, error.description());
     }
@@ -87,7 +86,7 @@ Palette PaletteImporter::decode(const QByteArray& data, const QString& fileExten
                                 const std::optional<QString>& suggestedName) const {
     const QString extension = fileExtension.toLower();
     requireSupported(extension);
-    return named(decoded(data, extension, m_clock.now()),
+    return named(decoded(data, extension, m_now),
                  withoutExtension(suggestedName.value_or(QString())));
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "palettes/Palette.h"
-#include "platform/Scheduler.h"
+#include "platform/ReferenceTime.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -33,10 +33,11 @@ private:
 
 /// The one door through which palette files come in. What a file is, its extension says; its
 /// content is not guessed at. Everything throws `PaletteImporterError`; a file comes in whole or
-/// not at all. Palettes come with new ids at all levels, modified now.
+/// not at all. Palettes come with new ids at all levels, modified `now`. No state: any thread may
+/// ask.
 class PaletteImporter {
 public:
-    explicit PaletteImporter(const Scheduler& clock) : m_clock(clock) {}
+    explicit PaletteImporter(ReferenceTime now) : m_now(now) {}
 
     /// In lower case, without dots.
     [[nodiscard]] static const QSet<QString>& supportedExtensions();
@@ -51,7 +52,7 @@ public:
                                  const std::optional<QString>& suggestedName = std::nullopt) const;
 
 private:
-    const Scheduler& m_clock;
+    ReferenceTime m_now;
 };
 
 } // namespace dropshade

@@ -34,6 +34,10 @@ void PalettesWindowController::close() {
         m_window->close();
 }
 
+bool PalettesWindowController::isShown() const {
+    return m_window && m_window->isVisible();
+}
+
 void PalettesWindowController::followShortcut() {
     if (m_window)
         m_window->followShortcut();

@@ -37,6 +37,7 @@ public:
     /// In front, with the keyboard.
     void bringUp();
     void close();
+    [[nodiscard]] bool isShown() const;
 
     /// The global shortcut that opens the window is another one.
     void followShortcut();

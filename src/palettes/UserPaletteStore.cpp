@@ -166,7 +166,11 @@ void UserPaletteStore::appendPalette(const Palette& palette) {
 }
 
 Palette UserPaletteStore::addPalette(const Palette& palette) {
-    Palette added = palette.freshCopy(m_scheduler.now());
+    return addFreshPalette(palette.freshCopy(m_scheduler.now()));
+}
+
+Palette UserPaletteStore::addFreshPalette(Palette added) {
+    added.setLastModified(m_scheduler.now());
     const QString name = added.name().isEmpty()
                              ? tr("Imported Palette", "Default name for an imported palette")
                              : added.name();

@@ -46,6 +46,9 @@ public:
 
     /// Puts a fresh copy in front, under a name that no palette has, and returns it.
     Palette addPalette(const Palette& palette);
+    /// The same with the palette itself, whose ids must be new at all levels, as those of a palette
+    /// that was read from a file are: to copy a large one takes long.
+    Palette addFreshPalette(Palette palette);
     void deletePalette(QUuid id);
     /// Puts a fresh copy, named as a copy, directly behind its source.
     void duplicatePalette(QUuid id);

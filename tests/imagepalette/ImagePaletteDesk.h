@@ -34,6 +34,9 @@ public:
     /// Every palette that was made.
     [[nodiscard]] const QList<Palette>& made() const { return m_made; }
 
+    /// Lets the image that is on its way, if any, be decoded and come.
+    void decode() { m_queue.workAndLand(); }
+
     /// Lets the computation that is on its way, if any, end and land.
     void finish() {
         m_scheduler.advance(QuantizationTask::delay);

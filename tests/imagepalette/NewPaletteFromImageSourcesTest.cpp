@@ -46,9 +46,18 @@ protected:
         content->setUrls(urls);
         return content;
     }
+    void loadFile(const QString& path) {
+        m_model.loadFile(path);
+        m_desk.decode();
+    }
+    void drop(const QMimeData& content) {
+        m_model.drop(content);
+        m_desk.decode();
+    }
     void paste(std::unique_ptr<QMimeData> content) {
         m_desk.pasteboard().setContent(std::move(content));
         m_model.paste();
+        m_desk.decode();
     }
     [[nodiscard]] bool isUntouched() const {
         return !m_model.image() && m_model.errorMessage() == std::nullopt &&
@@ -63,7 +72,7 @@ protected:
 // A file
 
 TEST_F(NewPaletteFromImageSources, AFileLoadsUnderItsNameWithoutTheExtension) {
-    m_model.loadFile(write("beach_day.2024.png", png()));
+    loadFile(write("beach_day.2024.png", png()));
     ASSERT_TRUE(m_model.image());
     EXPECT_EQ(m_model.image()->originalSize, QSize(30, 20));
     EXPECT_EQ(m_model.sourceFilename(), QStringLiteral("beach_day.2024"));
@@ -71,10 +80,10 @@ TEST_F(NewPaletteFromImageSources, AFileLoadsUnderItsNameWithoutTheExtension) {
 }
 
 TEST_F(NewPaletteFromImageSources, AFileThatIsNoImageIsToldAndTheEarlierImageStays) {
-    m_model.loadFile(write("first.png", png()));
+    loadFile(write("first.png", png()));
     m_desk.finish();
     const auto swatches = m_model.swatches();
-    m_model.loadFile(write("notes.txt", "no image"));
+    loadFile(write("notes.txt", "no image"));
     EXPECT_EQ(m_model.errorMessage(), unsupported);
     ASSERT_TRUE(m_model.image());
     EXPECT_EQ(m_model.sourceFilename(), QStringLiteral("first"));
@@ -84,8 +93,8 @@ TEST_F(NewPaletteFromImageSources, AFileThatIsNoImageIsToldAndTheEarlierImageSta
 }
 
 TEST_F(NewPaletteFromImageSources, AnImageClearsTheOldMessage) {
-    m_model.loadFile(write("notes.txt", "no image"));
-    m_model.loadFile(write("first.png", png()));
+    loadFile(write("notes.txt", "no image"));
+    loadFile(write("first.png", png()));
     EXPECT_EQ(m_model.errorMessage(), std::nullopt);
 }
 
@@ -93,13 +102,13 @@ TEST_F(NewPaletteFromImageSources, AMissingFileAFolderAndAnEmptyFileAreTold) {
     for (const QString& path :
          {m_folder.filePath(QStringLiteral("none.png")), m_folder.path(), write("empty.png", {})}) {
         m_model.removeImage();
-        m_model.loadFile(path);
+        loadFile(path);
         EXPECT_EQ(m_model.errorMessage(), unsupported) << path.toStdString();
     }
 }
 
 TEST_F(NewPaletteFromImageSources, AnImageUnderAnotherFormatsNameLoads) {
-    m_model.loadFile(write("photo.jpg", png()));
+    loadFile(write("photo.jpg", png()));
     EXPECT_TRUE(m_model.image());
 }
 
@@ -113,17 +122,65 @@ TEST_F(NewPaletteFromImageSources, HostileFilesEndInTheMessageQuickly) {
     for (const QByteArray& file : hostile) {
         m_model.removeImage();
         const auto start = std::chrono::steady_clock::now();
-        m_model.loadFile(write("hostile.png", file));
+        loadFile(write("hostile.png", file));
         const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
         EXPECT_EQ(m_model.errorMessage(), unsupported) << file.size() << " bytes";
         EXPECT_LT(time.count(), 1.0);
     }
 }
 
+// Beside the main thread
+
+TEST_F(NewPaletteFromImageSources, AFileIsDecodedBesideTheMainThread) {
+    m_model.loadFile(write("first.png", png()));
+    EXPECT_FALSE(m_model.image());
+    m_desk.queue().work();
+    EXPECT_FALSE(m_model.image());
+    m_desk.queue().land();
+    EXPECT_TRUE(m_model.image());
+}
+
+TEST_F(NewPaletteFromImageSources, OfTwoFilesTheLaterShows) {
+    m_model.loadFile(write("first.png", png()));
+    m_model.loadFile(write("second.png", png()));
+    m_desk.decode();
+    EXPECT_EQ(m_model.sourceFilename(), QStringLiteral("first"));
+    m_desk.decode();
+    EXPECT_EQ(m_model.sourceFilename(), QStringLiteral("second"));
+    EXPECT_EQ(m_model.paletteName(), QStringLiteral("Second"));
+}
+
+TEST_F(NewPaletteFromImageSources, AnImageThatIsRemovedTakesTheOneOnItsWayAlong) {
+    loadFile(write("first.png", png()));
+    m_model.loadFile(write("second.png", png()));
+    m_desk.queue().work();
+    m_model.removeImage();
+    m_desk.queue().land();
+    EXPECT_FALSE(m_model.image());
+    loadFile(write("third.png", png()));
+    EXPECT_EQ(m_model.sourceFilename(), QStringLiteral("third"));
+}
+
+TEST_F(NewPaletteFromImageSources, TheEndOfTheSheetDropsTheImageOnItsWay) {
+    ManualScheduler scheduler;
+    ManualBackgroundQueue queue;
+    const FakePasteboard pasteboard;
+    auto model = std::make_unique<NewPaletteFromImageModel>(
+        NewPaletteFromImageModel::Surroundings{scheduler, queue, pasteboard});
+    model->loadFile(write("first.png", png()));
+    model->loadFile(write("second.png", png()));
+    queue.work();
+    model.reset();
+    queue.workAndLand();
+    EXPECT_EQ(queue.runs(), 1);
+    EXPECT_EQ(queue.waiting(), 0);
+}
+
 // The clipboard
 
 TEST_F(NewPaletteFromImageSources, AnEmptyClipboardIsTold) {
     m_model.paste();
+    m_desk.decode();
     EXPECT_EQ(m_model.errorMessage(), noImage);
 }
 
@@ -185,37 +242,37 @@ TEST_F(NewPaletteFromImageSources, FilesAndImagesAreAccepted) {
 TEST_F(NewPaletteFromImageSources, ADroppedFileComesBeforeDroppedBytes) {
     auto content = files({write("beach_day.png", png())});
     content->setData(QStringLiteral("image/png"), png());
-    m_model.drop(*content);
+    drop(*content);
     EXPECT_EQ(m_model.sourceFilename(), QStringLiteral("beach_day"));
 }
 
 TEST_F(NewPaletteFromImageSources, DroppedBytesLoadUnderTheSuggestedName) {
     const auto content = data("image/png", png());
     content->setUrls({QUrl(QStringLiteral("https://example.org/harbour_at-dusk.webp"))});
-    m_model.drop(*content);
+    drop(*content);
     EXPECT_TRUE(m_model.image());
     EXPECT_EQ(m_model.sourceFilename(), QStringLiteral("harbour_at-dusk"));
     EXPECT_EQ(m_model.paletteName(), QStringLiteral("Harbour At Dusk"));
 }
 
 TEST_F(NewPaletteFromImageSources, DroppedBytesWithoutANameLeaveTheNameAsItWas) {
-    m_model.drop(*data("image/png", png()));
+    drop(*data("image/png", png()));
     EXPECT_TRUE(m_model.image());
     EXPECT_EQ(m_model.paletteName(), QString());
 }
 
 TEST_F(NewPaletteFromImageSources, DroppedBytesThatAreNoImageDoNothing) {
-    m_model.drop(*data("image/png", "junk"));
+    drop(*data("image/png", "junk"));
     EXPECT_TRUE(isUntouched());
 }
 
 TEST_F(NewPaletteFromImageSources, ADroppedFileThatIsNoImageIsTold) {
-    m_model.drop(*files({write("notes.txt", "no image")}));
+    drop(*files({write("notes.txt", "no image")}));
     EXPECT_EQ(m_model.errorMessage(), unsupported);
 }
 
 TEST_F(NewPaletteFromImageSources, ADropOfNothingDoesNothing) {
-    m_model.drop(QMimeData());
+    drop(QMimeData());
     EXPECT_TRUE(isUntouched());
 }
 
@@ -235,6 +292,7 @@ TEST_P(PromisedFormats, GiveColors) {
     QMimeData content;
     content.setData(QStringLiteral("image/x-anything"), file);
     desk.model().drop(content);
+    desk.decode();
     desk.finish();
     EXPECT_TRUE(desk.model().image());
     EXPECT_FALSE(desk.model().swatches().empty());

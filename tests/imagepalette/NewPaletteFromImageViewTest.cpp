@@ -252,6 +252,7 @@ TEST_F(NewPaletteFromImageSheet, AClickInTheEmptyZoneBrowsesAndOneInTheImageDoes
         EXPECT_TRUE(m_panels.panels().first().kind.extensions.contains(QLatin1String(extension)))
             << extension;
     m_panels.choose(QStringLiteral("/no/such/file.png"));
+    m_queue.workAndLand();
     EXPECT_TRUE(shows(QStringLiteral("Unsupported image format.")));
     sheet().close();
     present(photo(), QStringLiteral("photo"));
@@ -267,6 +268,7 @@ TEST_F(NewPaletteFromImageSheet, AnAnswerOfThePanelAfterTheSheetHasGoneDoesNothi
     sheet().close();
     turnEventLoop();
     m_panels.choose(QStringLiteral("/no/such/file.png"));
+    EXPECT_EQ(m_queue.waiting(), 0);
     EXPECT_EQ(m_controller.window(), nullptr);
     present();
     EXPECT_FALSE(shows(QStringLiteral("Unsupported image format.")));

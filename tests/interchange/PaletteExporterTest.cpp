@@ -75,7 +75,7 @@ TEST_F(PaletteExporterTest, WritesThePaletteAsItWasWhenTheUserAsked) {
     palette.setScales({});
     m_scheduler.advance(0);
     saveAs("a.json");
-    EXPECT_EQ(PaletteImporter(m_scheduler).load(path("a.json")).scales().size(), 1);
+    EXPECT_EQ(PaletteImporter(m_scheduler.now()).load(path("a.json")).scales().size(), 1);
     EXPECT_TRUE(m_alerts.shown().isEmpty());
 }
 

@@ -53,7 +53,7 @@ protected:
 
     QTemporaryDir m_folder;
     ManualScheduler m_clock;
-    PaletteImporter m_importer{m_clock};
+    PaletteImporter m_importer{m_clock.now()};
 };
 
 TEST_F(PaletteImporterTest, TheFileNameWithoutItsExtensionIsThePalettesName) {
