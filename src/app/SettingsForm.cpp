@@ -38,7 +38,8 @@ SettingsRow::SettingsRow(const Look& look, const QString& name, QWidget& control
     line->addWidget(&control, 0, Qt::AlignVCenter);
     m_lines->addLayout(line);
     label->setMinimumHeight(metrics::control);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // Words that wrap may need more than the size hint, which knows of no width.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
 }
 
 Label* SettingsRow::addCaption(const QString& words) {

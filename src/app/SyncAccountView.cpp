@@ -7,6 +7,7 @@
 #include "widgets/Picker.h"
 #include "widgets/TextButton.h"
 #include "widgets/TextField.h"
+#include "widgets/TypeScale.h"
 
 #include <QBoxLayout>
 #include <QPainter>
@@ -143,13 +144,30 @@ void SyncAccountView::addTest() {
     //: Sync settings: button
     auto* test = new TextButton(m_look, TextButton::Kind::Plain, tr("Test connection"), this);
     connect(test, &QAbstractButton::clicked, this, [this] { m_model.testConnection(); });
-    m_sign = new QLabel(this);
-    m_result = new Label(m_look, TextStyle::Body, Label::Tone::Primary, QString(), this);
-    m_result->setWordWrap(true);
-    QWidget* line = addLine(QString(), {test, m_sign, m_result});
-    auto* row = static_cast<QHBoxLayout*>(line->layout());
-    row->setStretchFactor(m_result, 1);
+    auto* both = new QWidget(this);
+    m_testLine = new QBoxLayout(QBoxLayout::LeftToRight, both);
+    m_testLine->setContentsMargins(0, 0, 0, 0);
+    m_testLine->setSpacing(metrics::space8);
+    m_testLine->addWidget(test, 0, Qt::AlignLeft);
+    m_testLine->addWidget(makeOutcome(), 1, Qt::AlignVCenter);
+    QWidget* line = addLine(QString(), {both});
+    static_cast<QHBoxLayout*>(line->layout())->setStretchFactor(both, 1);
     m_serverLines.append(line);
+}
+
+QWidget* SyncAccountView::makeOutcome() {
+    m_outcome = new QWidget(this);
+    m_sign = new QLabel(m_outcome);
+    // In the middle of the first line of words.
+    m_sign->setContentsMargins(0, (lineHeight(TextStyle::Body) - metrics::icon) / 2, 0, 0);
+    m_result = new Label(m_look, TextStyle::Body, Label::Tone::Primary, QString(), m_outcome);
+    m_result->setWordWrap(true);
+    auto* row = new QHBoxLayout(m_outcome);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(metrics::space8);
+    row->addWidget(m_sign, 0, Qt::AlignTop);
+    row->addWidget(m_result, 1);
+    return m_outcome;
 }
 
 void SyncAccountView::showAccount() {
@@ -183,7 +201,10 @@ void SyncAccountView::showResult() {
         sign(Icon::CircleCheck, theme.statePass);
     else if (kind == Kind::Failed)
         sign(Icon::ExclamationCircle, theme.dangerBase);
-    m_sign->setVisible(kind != Kind::None);
+    m_outcome->setVisible(kind != Kind::None);
+    // What went wrong takes a sentence, more than there is room for beside the button.
+    m_testLine->setDirection(kind == Kind::Failed ? QBoxLayout::TopToBottom
+                                                  : QBoxLayout::LeftToRight);
     m_result->setTone(kind == Kind::Failed    ? Label::Tone::Danger
                       : kind == Kind::Working ? Label::Tone::Secondary
                                               : Label::Tone::Primary);

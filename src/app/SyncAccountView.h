@@ -6,7 +6,7 @@
 #include "platform/FilePanels.h"
 #include "widgets/Label.h"
 
-class QHBoxLayout;
+class QBoxLayout;
 class QVBoxLayout;
 
 namespace dropshade {
@@ -34,6 +34,7 @@ private:
     void addFolder();
     void addServer();
     void addTest();
+    QWidget* makeOutcome();
     void showAccount();
     void showResult();
 
@@ -47,6 +48,8 @@ private:
     TextField* m_user = nullptr;
     TextField* m_password = nullptr;
     TextField* m_authority = nullptr;
+    QBoxLayout* m_testLine = nullptr;
+    QWidget* m_outcome = nullptr;
     QLabel* m_sign = nullptr;
     Label* m_result = nullptr;
     QList<QWidget*> m_folderLines;

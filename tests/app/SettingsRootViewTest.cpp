@@ -210,6 +210,29 @@ TEST_F(SettingsRootViewTest, TheEtcdFieldsAreStoredAndTestedInWords) {
     EXPECT_TRUE(showsWords(QStringLiteral("The password is wrong.")));
 }
 
+TEST_F(SettingsRootViewTest, WhatWentWrongIsReadableHoweverManyLinesItTakes) {
+    click(toggle("Sync via iCloud"));
+    choose(find<Picker>("Keep data in"), QStringLiteral("An etcd server"));
+    const auto buttons = window().findChildren<TextButton*>();
+    click(*std::find_if(buttons.begin(), buttons.end(), [](const TextButton* button) {
+        return button->text() == QStringLiteral("Test connection");
+    }));
+    const QString trouble =
+        QStringLiteral("The server can't be reached: ") +
+        QStringLiteral("the certificate of its authority has expired. ").repeated(4);
+    fakes.cloudAccounts.answerCheck(trouble);
+    fakes.cloudStore.setTrouble(trouble);
+    EXPECT_TRUE(showsWords(trouble));
+    const auto labels = window().findChildren<QLabel*>();
+    const auto isWhole = [](const QLabel* label) {
+        return !label->isVisible() || !label->wordWrap() ||
+               label->height() >= label->heightForWidth(label->width());
+    };
+    // The layouts of one row find their sizes one after another.
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return std::all_of(labels.begin(), labels.end(), isWhole); }, 1000));
+}
+
 TEST_F(SettingsRootViewTest, AFolderIsChosenInAPanel) {
     click(toggle("Sync via iCloud"));
     click(find<TextButton>("Choose Folder"));
