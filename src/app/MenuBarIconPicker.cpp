@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/MenuBarIconPicker.h"
 
-#include "widgets/FocusRing.h"
 #include "widgets/Icon.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
-#include "widgets/ToolTip.h"
+#include "widgets/RadioButton.h"
 
 #include <QHBoxLayout>
-#include <QRadioButton>
 
 namespace dropshade {
 namespace {
@@ -44,44 +42,37 @@ QString title(MenuBarIconStyle style) {
 }
 
 /// One of the choices. Its fill tells its state, and an edge the selected one.
-class Tile : public QRadioButton {
+class Tile : public RadioButton {
 public:
     Tile(const Look& look, MenuBarIconStyle style, QWidget* parent)
-        : QRadioButton(parent), m_look(look), m_drawing(drawing(style)) {
+        : RadioButton(look, parent), m_drawing(drawing(style)) {
         setAccessibleName(title(style));
         setToolTip(title(style));
-        setAttribute(Qt::WA_Hover);
-        setFocusPolicy(Qt::TabFocus);
         setFixedSize(metrics::tileWidth, metrics::tileHeight);
-        setFocusRadius(*this, metrics::radiusControl);
-        ToolTip::installOn(*this, look);
     }
 
 protected:
-    [[nodiscard]] bool hitButton(const QPoint& position) const override {
-        return rect().contains(position);
-    }
-
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const Theme& theme = m_look.theme();
-        const bool isOver = underMouse() || isDown();
+    void paint(QPainter& painter) override {
         fillRounded(painter, rect(), metrics::radiusControl,
-                    isChecked() ? theme.fillTileSelected
-                    : isOver    ? theme.fillTileHover
-                                : theme.fillTileRest);
+                    isChecked() ? theme().fillTileSelected : restOrHover());
         if (isChecked())
             strokeInside(painter, rect(), metrics::radiusControl, metrics::lineSelected,
-                         theme.accentBase);
+                         theme().accentBase);
         const QPoint corner((width() - drawingSide) / 2, (height() - drawingSide) / 2);
-        painter.drawPixmap(corner,
-                           iconPixmap(m_drawing, isChecked() ? theme.accentBase : theme.textPrimary,
-                                      drawingSide, devicePixelRatioF()));
+        painter.drawPixmap(
+            corner, iconPixmap(m_drawing, isChecked() ? theme().accentBase : theme().textPrimary,
+                               drawingSide, devicePixelRatioF()));
     }
 
 private:
-    const Look& m_look;
+    [[nodiscard]] QColor restOrHover() const {
+        const double over = isPressed() ? 1.0 : hoverAmount();
+        QColor fill = theme().fillTileHover;
+        fill.setAlphaF(static_cast<float>(theme().fillTileRest.alphaF() * (1.0 - over) +
+                                          fill.alphaF() * over));
+        return fill;
+    }
+
     Icon m_drawing;
 };
 

@@ -4,16 +4,14 @@
 
 #include "palettes/PresetChoice.h"
 #include "palettes/SwatchPainting.h"
-#include "widgets/AnimatedValue.h"
-#include "widgets/FocusRing.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
+#include "widgets/RadioButton.h"
 #include "widgets/ScrollArea.h"
 #include "widgets/TypeScale.h"
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -25,16 +23,12 @@ constexpr int listPadding = 4;
 constexpr int mostRowsInView = 7;
 constexpr double rowPadding = 12.0;
 
-class Row : public QRadioButton {
+class Row : public RadioButton {
 public:
     Row(const Look& look, const Palette& preset, QWidget* parent)
-        : QRadioButton(parent), m_look(look), m_name(preset.name()), m_chips(presetChips(preset)) {
+        : RadioButton(look, parent), m_name(preset.name()), m_chips(presetChips(preset)) {
         setAccessibleName(m_name);
-        setAttribute(Qt::WA_Hover);
-        setFocusPolicy(Qt::TabFocus);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        setFocusRadius(*this, metrics::radiusControl);
-        connect(&look, &Look::didChange, this, qOverload<>(&QWidget::update));
     }
 
     [[nodiscard]] QSize sizeHint() const override {
@@ -43,34 +37,19 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    [[nodiscard]] bool hitButton(const QPoint& position) const override {
-        return rect().contains(position);
-    }
-
-    bool event(QEvent* event) override {
-        if (event->type() == QEvent::HoverEnter)
-            m_hover.moveTo(1.0, m_look.duration(metrics::hover));
-        if (event->type() == QEvent::HoverLeave)
-            m_hover.moveTo(0.0, m_look.duration(metrics::hover));
-        return QRadioButton::event(event);
-    }
-
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        const Theme& theme = m_look.theme();
+    void paint(QPainter& painter) override {
         const QRectF area = rect();
-        const QColor hovered = blended(Qt::transparent, theme.fillHover, m_hover.value());
         fillRounded(painter, area, metrics::radiusControl,
-                    isChecked() ? theme.accentSoft : hovered);
+                    isChecked() ? theme().accentSoft : stateFill());
         if (isChecked())
-            drawTick(painter, area, theme);
+            drawTick(painter, area, theme());
         constexpr double chip = metrics::spineChip;
         const double length = chip * double(m_chips.size());
         const QRectF spine(area.right() - metrics::space8 - length, area.center().y() - chip / 2.0,
                            length, chip);
         if (!m_chips.isEmpty())
-            drawSpine(painter, spine, m_chips, theme);
-        painter.setPen(theme.textPrimary);
+            drawSpine(painter, spine, m_chips, theme());
+        painter.setPen(theme().textPrimary);
         drawWords(painter, textFont(isChecked() ? TextStyle::Strong : TextStyle::Body),
                   QRectF(area.left() + rowPadding, area.top(),
                          spine.left() - area.left() - rowPadding - metrics::space8, area.height()),
@@ -78,10 +57,8 @@ protected:
     }
 
 private:
-    const Look& m_look;
     QString m_name;
     QList<PaletteSwatch> m_chips;
-    AnimatedValue m_hover{*this};
 };
 
 } // namespace

@@ -7,8 +7,6 @@
 #include "widgets/Painting.h"
 #include "widgets/ToolTip.h"
 
-#include <QEvent>
-
 namespace dropshade {
 
 Button::Button(const Look& look, QWidget* parent)
@@ -33,20 +31,7 @@ void Button::setCornerRadius(double radius) {
 }
 
 bool Button::event(QEvent* event) {
-    switch (event->type()) {
-    case QEvent::HoverEnter:
-        m_hover.moveTo(isEnabled() ? 1.0 : 0.0, m_look.duration(metrics::hover));
-        break;
-    case QEvent::HoverLeave:
-    case QEvent::Hide:
-        m_hover.moveTo(0.0, m_look.duration(metrics::hover));
-        break;
-    case QEvent::EnabledChange:
-        m_hover.moveTo(isEnabled() && underMouse() ? 1.0 : 0.0, m_look.duration(metrics::hover));
-        break;
-    default:
-        break;
-    }
+    m_hover.follow(*event);
     return QPushButton::event(event);
 }
 

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/AnimatedValue.h"
-#include "widgets/Look.h"
+#include "widgets/HoverAmount.h"
 
 #include <QPushButton>
 
@@ -39,7 +38,7 @@ protected:
 
 private:
     const Look& m_look;
-    AnimatedValue m_hover{*this};
+    HoverAmount m_hover{m_look, *this};
     double m_cornerRadius;
 };
 

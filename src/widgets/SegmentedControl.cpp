@@ -2,17 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/SegmentedControl.h"
 
-#include "widgets/AnimatedValue.h"
-#include "widgets/FocusRing.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
-#include "widgets/ToolTip.h"
+#include "widgets/RadioButton.h"
 #include "widgets/TypeScale.h"
 
-#include <QEvent>
 #include <QFontMetrics>
 #include <QHBoxLayout>
-#include <QRadioButton>
 
 #include <algorithm>
 
@@ -23,16 +19,12 @@ namespace {
 constexpr int trackPadding = 2;
 constexpr int segmentPadding = 14;
 
-class Segment : public QRadioButton {
+class Segment : public RadioButton {
 public:
-    Segment(const Look& look, const QString& title, QWidget* parent)
-        : QRadioButton(title, parent), m_look(look) {
+    Segment(const Look& look, const QString& title, QWidget* parent) : RadioButton(look, parent) {
+        setText(title);
         setFont(textFont(TextStyle::Control));
-        setAttribute(Qt::WA_Hover);
-        setFocusPolicy(Qt::TabFocus);
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        setFocusRadius(*this, metrics::radiusControl);
-        ToolTip::installOn(*this, look);
     }
 
     [[nodiscard]] QSize sizeHint() const override {
@@ -42,41 +34,23 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
-    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
-
-    bool event(QEvent* event) override {
-        if (event->type() == QEvent::HoverEnter)
-            m_hover.moveTo(1.0, m_look.duration(metrics::hover));
-        if (event->type() == QEvent::HoverLeave)
-            m_hover.moveTo(0.0, m_look.duration(metrics::hover));
-        return QRadioButton::event(event);
-    }
-
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        const Theme& theme = m_look.theme();
+    void paint(QPainter& painter) override {
         const double radius = metrics::radiusControl;
         if (isChecked()) {
             if (isEnabled())
-                fillRounded(painter, rect(), radius, theme.surfaceSegment);
+                fillRounded(painter, rect(), radius, theme().surfaceSegment);
             strokeInside(painter, rect(), radius, metrics::lineHairline,
-                         isEnabled() ? theme.lineControl : theme.lineEdge);
+                         isEnabled() ? theme().lineControl : theme().lineEdge);
         } else if (isEnabled()) {
-            fillRounded(painter, rect(), radius,
-                        isDown() ? theme.fillPressed
-                                 : blended(Qt::transparent, theme.fillHover, m_hover.value()));
+            fillRounded(painter, rect(), radius, stateFill());
         }
-        const bool isStrong = isChecked() || isDown() || m_hover.value() > 0.5;
+        const bool isStrong = isChecked() || isDown() || hoverAmount() > 0.5;
         painter.setFont(font());
-        painter.setPen(!isEnabled() ? theme.textTertiary
-                       : isStrong   ? theme.textPrimary
-                                    : theme.textSecondary);
+        painter.setPen(!isEnabled() ? theme().textTertiary
+                       : isStrong   ? theme().textPrimary
+                                    : theme().textSecondary);
         painter.drawText(rect(), Qt::AlignCenter, text());
     }
-
-private:
-    const Look& m_look;
-    AnimatedValue m_hover{*this};
 };
 
 } // namespace
@@ -100,11 +74,7 @@ SegmentedControl::SegmentedControl(const Look& look, const QString& name, const 
         });
         m_segments.append(segment);
     }
-    connect(&look, &Look::didChange, this, [this] {
-        update();
-        for (QAbstractButton* segment : std::as_const(m_segments))
-            segment->update();
-    });
+    connect(&look, &Look::didChange, this, qOverload<>(&QWidget::update));
 }
 
 int SegmentedControl::currentIndex() const {

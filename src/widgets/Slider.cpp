@@ -55,10 +55,7 @@ int Slider::valueAt(double x) const {
 }
 
 bool Slider::event(QEvent* event) {
-    if (event->type() == QEvent::HoverEnter)
-        m_hover.moveTo(1.0, m_look.duration(metrics::hover));
-    if (event->type() == QEvent::HoverLeave)
-        m_hover.moveTo(0.0, m_look.duration(metrics::hover));
+    m_hover.follow(*event);
     return QSlider::event(event);
 }
 

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/AnimatedValue.h"
-#include "widgets/Look.h"
+#include "widgets/HoverAmount.h"
 
 #include <QSlider>
 
@@ -34,7 +33,7 @@ private:
     void paintThumb(QPainter& painter) const;
 
     const Look& m_look;
-    AnimatedValue m_hover{*this};
+    HoverAmount m_hover{m_look, *this};
 };
 
 } // namespace dropshade

@@ -84,10 +84,7 @@ QSize TextField::minimumSizeHint() const {
 }
 
 bool TextField::event(QEvent* event) {
-    if (event->type() == QEvent::HoverEnter)
-        m_hover.moveTo(1.0, m_look.duration(metrics::hover));
-    if (event->type() == QEvent::HoverLeave)
-        m_hover.moveTo(0.0, m_look.duration(metrics::hover));
+    m_hover.follow(*event);
     return QLineEdit::event(event);
 }
 
@@ -102,9 +99,8 @@ void TextField::paintEvent(QPaintEvent* event) {
             strokeInside(painter, area, metrics::radiusControl, metrics::lineError,
                          theme.dangerEdge);
         else
-            strokeEdge(
-                painter, area, metrics::radiusControl,
-                blended(theme.lineEdge, theme.lineControl, isEnabled() ? m_hover.value() : 0.0));
+            strokeEdge(painter, area, metrics::radiusControl,
+                       blended(theme.lineEdge, theme.lineControl, m_hover.value()));
     }
     QLineEdit::paintEvent(event);
 }

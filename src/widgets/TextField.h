@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/AnimatedValue.h"
-#include "widgets/Look.h"
+#include "widgets/HoverAmount.h"
 
 #include <QLineEdit>
 
@@ -59,7 +58,7 @@ private:
 
     const Look& m_look;
     Content m_content;
-    AnimatedValue m_hover{*this};
+    HoverAmount m_hover{m_look, *this};
     int m_height;
     bool m_isFailed = false;
     IconButton* m_clearButton = nullptr;
