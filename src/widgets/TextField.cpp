@@ -39,7 +39,11 @@ TextField::TextField(const Look& look, Content content, QWidget* parent)
     adopt();
     arrange();
     connect(&look, &Look::didChange, this, &TextField::adopt);
-    connect(this, &QLineEdit::textChanged, this, &TextField::arrange);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        arrange();
+        if (!hasFocus() && !isModified())
+            showBeginning();
+    });
 }
 
 void TextField::setFieldHeight(int height) {
@@ -117,8 +121,10 @@ void TextField::focusInEvent(QFocusEvent* event) {
 
 void TextField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        Q_EMIT focusLeft();
+    if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
+        return;
+    showBeginning();
+    Q_EMIT focusLeft();
 }
 
 void TextField::contextMenuEvent(QContextMenuEvent* event) {
@@ -141,6 +147,11 @@ void TextField::contextMenuEvent(QContextMenuEvent* event) {
     add(tr("Select All", "Edit menu item"), QKeySequence::SelectAll, !text().isEmpty(),
         &QLineEdit::selectAll);
     menu->popup(event->globalPos());
+}
+
+/// Of what is too long for the field nobody wants to read the end first.
+void TextField::showBeginning() {
+    setCursorPosition(0);
 }
 
 void TextField::adopt() {

@@ -55,6 +55,7 @@ protected:
 private:
     void adopt();
     void arrange();
+    void showBeginning();
 
     const Look& m_look;
     Content m_content;

@@ -14,6 +14,7 @@
 #include "support/FakeAppearance.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QRadioButton>
 #include <QTest>
 
@@ -82,6 +83,20 @@ TEST_F(ControlsTest, AFailedFieldShowsItsReasonAndAnotherEdge) {
         hasReason |= child->isVisible() &&
                      child->accessibleName() == QStringLiteral("Couldn't parse this color");
     EXPECT_TRUE(hasReason);
+}
+
+TEST_F(ControlsTest, AFieldShowsTheBeginningOfALongTextWhileNobodyTypesThere) {
+    TextField field(m_look, TextField::Content::Value);
+    field.setText(QStringLiteral("https://a.server.with.a.long.name:2379"));
+    EXPECT_EQ(field.cursorPosition(), 0);
+    field.show();
+    QApplication::setActiveWindow(&field);
+    field.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&field, Qt::Key_End);
+    QTest::keyClicks(&field, QStringLiteral("0"));
+    EXPECT_EQ(field.cursorPosition(), field.text().size());
+    field.clearFocus();
+    EXPECT_EQ(field.cursorPosition(), 0);
 }
 
 TEST_F(ControlsTest, TheClearButtonIsThereOnlyWhileThereIsText) {
