@@ -7,6 +7,7 @@
 #include "widgets/Painting.h"
 #include "widgets/TypeScale.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace dropshade {
@@ -18,7 +19,7 @@ constexpr int iconSide = 40;
 
 PaletteDropOverlay::PaletteDropOverlay(const Look& look, QWidget* parent)
     : QWidget(parent), m_look(look) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setMouseTracking(true);
     hide();
 }
 
@@ -30,6 +31,14 @@ void PaletteDropOverlay::setKind(const std::optional<PaletteDropKind>& kind) {
         setAccessibleName(dropPrompt(*kind));
     raise();
     update();
+}
+
+bool PaletteDropOverlay::event(QEvent* event) {
+    // While something is dragged the pointer tells nobody of its ways. Here it is free again, and
+    // whoever dragged has gone without a word.
+    if (event->type() == QEvent::MouseMove || event->type() == QEvent::MouseButtonPress)
+        setKind(std::nullopt);
+    return QWidget::event(event);
 }
 
 void PaletteDropOverlay::paintEvent(QPaintEvent*) {

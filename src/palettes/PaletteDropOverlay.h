@@ -20,6 +20,7 @@ public:
     void setKind(const std::optional<PaletteDropKind>& kind);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

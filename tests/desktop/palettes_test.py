@@ -211,6 +211,16 @@ class Exchange(PalettesCase):
         self.assertTrue(self.drop({"application/json": palette_json("Data").encode()}))
         wait_until(lambda: self.stored_palettes()[0]["name"] == "Data", "the palette")
 
+    def test_the_window_is_back_when_a_program_ends_in_the_middle_of_its_drag(self):
+        place = self.swatch_at(0, 1)
+        with Source(self.desktop.environment["DISPLAY"],
+                    self.file("sea.json", palette_json("inside"))) as source:
+            source.enter(self.window)
+            self.assertTrue(source.move(self.window, *self.at(300, 400)))
+            wait_until(lambda: self.desktop.pixel(*place) != (0, 0, 255), "the overlay")
+        self.desktop.move(*self.at(300, 400))
+        wait_until(lambda: self.desktop.pixel(*place) == (0, 0, 255), "the swatches")
+
     def test_plain_text_is_refused(self):
         with Source(self.desktop.environment["DISPLAY"], {"text/plain": b"red"}) as source:
             source.enter(self.window)
