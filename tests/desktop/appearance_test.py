@@ -2,13 +2,11 @@
 # SPDX-License-Identifier: MIT
 """Light and dark, as the desktop's portal says, and the loupe in both at scale 1 and 2."""
 
-import pathlib
-import subprocess
 import unittest
 
+from desktop_settings import DesktopSettings
 from dropshade_case import DropshadeCase, wait_until
 
-PORTAL = str(pathlib.Path(__file__).with_name("settings_portal.py"))
 PLATE = {"light": (0x1F, 0x1F, 0x1F), "dark": (0x3D, 0x3D, 0x3D)}
 CENTER = (640, 400)
 INK = [(27, 39, 64), (52, 84, 148), (242, 178, 99), (231, 111, 81), (244, 241, 222)]
@@ -25,15 +23,7 @@ class Appearance(DropshadeCase):
                                INK[index % 4]))
             rectangles.append((620 + index, 380 + index, 3, 3, INK[(index * 3) % 4]))
         cls.desktop.paint(rectangles)
-        cls.portal = cls.desktop.start(["/usr/bin/python3", PORTAL, "2"])
-        wait_until(lambda: cls.desktop.bus_has_name("org.freedesktop.portal.Desktop"), "the portal")
-
-    def set_scheme(self, scheme):
-        subprocess.run(
-            ["dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.portal.Desktop",
-             "/org/freedesktop/portal/desktop", "org.dropshade.TestPortal.SetScheme",
-             f"string:{scheme}"], env=self.desktop.environment, check=True,
-            stdout=subprocess.DEVNULL)
+        cls.appearance = DesktopSettings(cls.desktop)
 
     def darkest_and_lightest_of_icon(self):
         x, y, width, height = self.icon
@@ -42,9 +32,9 @@ class Appearance(DropshadeCase):
         return min(levels), max(levels)
 
     def test_the_icon_changes_its_ink_with_the_desktop_while_the_program_runs(self):
-        self.set_scheme(2)
+        self.appearance.set_scheme("light")
         wait_until(lambda: self.darkest_and_lightest_of_icon()[0] < 3 * 60, "dark ink")
-        self.set_scheme(1)
+        self.appearance.set_scheme("dark")
         wait_until(lambda: self.darkest_and_lightest_of_icon()[1] > 3 * 230, "light ink")
 
     def show_loupe(self, name, scale, scheme):
@@ -62,8 +52,8 @@ class Appearance(DropshadeCase):
         self.wait_for_no_loupe()
 
     def test_the_loupe_is_drawn_in_the_desktops_scheme(self):
-        for number, scheme in ((1, "dark"), (2, "light")):
-            self.set_scheme(number)
+        for scheme in ("dark", "light"):
+            self.appearance.set_scheme(scheme)
             self.show_loupe("1x", 1.0, scheme)
 
 
@@ -71,8 +61,8 @@ class AppearanceAtScale2(Appearance):
     VARIABLES = {"QT_SCALE_FACTOR": "2"}
 
     def test_the_loupe_is_drawn_in_the_desktops_scheme(self):
-        for number, scheme in ((1, "dark"), (2, "light")):
-            self.set_scheme(number)
+        for scheme in ("dark", "light"):
+            self.appearance.set_scheme(scheme)
             self.show_loupe("2x", 2.0, scheme)
 
 

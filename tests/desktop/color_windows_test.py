@@ -260,7 +260,7 @@ class ContrastWindow(WindowCase):
         self.open()
         corner = self.at(CONTRAST, 4, 4)
         for scheme in ("dark", "light"):
-            self.set_scheme(scheme)
+            self.appearance.set_scheme(scheme)
             wait_until(lambda: self.desktop.pixel(*corner) == GROUND[scheme], scheme)
 
 

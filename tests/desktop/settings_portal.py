@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """The settings of a desktop portal: `settings_portal.py 1` prefers dark, `2` light, `0` nothing.
 
-Under its own name it answers to `SetScheme(s)`, which changes the preference and announces it.
+Under its own name it answers to `Set(ssv)`, which changes a setting, by group and key, and announces it.
 """
 
 import sys
@@ -13,30 +13,31 @@ import dbus.service
 from gi.repository import GLib
 
 SETTINGS = "org.freedesktop.portal.Settings"
-GROUP, KEY = "org.freedesktop.appearance", "color-scheme"
+COLOR_SCHEME = "org.freedesktop.appearance", "color-scheme"
 
 
 class Portal(dbus.service.Object):
 
     def __init__(self, bus, scheme):
         super().__init__(bus, "/org/freedesktop/portal/desktop")
-        self.scheme = dbus.UInt32(scheme)
+        self.values = {COLOR_SCHEME: dbus.UInt32(scheme)}
 
     @dbus.service.method(SETTINGS, in_signature="ss", out_signature="v")
     def Read(self, group, key):
-        if (group, key) != (GROUP, KEY):
+        if (group, key) not in self.values:
             raise dbus.DBusException("no such setting")
         # The portals of today wrap the value once more than their own text says.
-        return dbus.UInt32(self.scheme, variant_level=1)
+        value = self.values[group, key]
+        return type(value)(value, variant_level=1)
 
     @dbus.service.signal(SETTINGS, signature="ssv")
     def SettingChanged(self, group, key, value):
         pass
 
-    @dbus.service.method("org.dropshade.TestPortal", in_signature="s")
-    def SetScheme(self, scheme):
-        self.scheme = dbus.UInt32(int(scheme))
-        self.SettingChanged(GROUP, KEY, self.scheme)
+    @dbus.service.method("org.dropshade.TestPortal", in_signature="ssv")
+    def Set(self, group, key, value):
+        self.values[group, key] = value
+        self.SettingChanged(group, key, value)
 
 
 def main(scheme):

@@ -245,7 +245,7 @@ class Pictures(SettingsCase):
 
     def take(self, suffix):
         for scheme in ("light", "dark"):
-            self.set_scheme(scheme)
+            self.appearance.set_scheme(scheme)
             for title, name in ((SETTINGS, "settings"), (ABOUT, "about")):
                 self.open(title)
                 wait_until(lambda: self.desktop.pixel(*self.at(title, 4, 4)) == GROUND[scheme],

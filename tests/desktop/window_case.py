@@ -5,10 +5,9 @@
 import pathlib
 import subprocess
 
+from desktop_settings import DesktopSettings
 from dropshade_case import DropshadeCase, wait_until
 
-PORTAL = str(pathlib.Path(__file__).with_name("settings_portal.py"))
-SCHEMES = {"dark": 1, "light": 2}
 GROUND = {"dark": (0x1E, 0x1E, 0x1E), "light": (0xF4, 0xF4, 0xF4)}
 MENU_ROWS = {"convert": 2, "contrast": 4}
 
@@ -23,7 +22,7 @@ FONTS = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontcon
 
 
 class WindowCase(DropshadeCase):
-    """The desktop with a portal, whose scheme a test sets; `self.scale` is that of the program."""
+    """The desktop with a portal, `self.appearance`; `self.scale` is that of the program."""
 
     scale = 1
 
@@ -33,8 +32,7 @@ class WindowCase(DropshadeCase):
         fonts = pathlib.Path(cls.desktop.environment["HOME"]) / "fonts.conf"
         fonts.write_text(FONTS)
         cls.desktop.environment["FONTCONFIG_FILE"] = str(fonts)
-        cls.portal = cls.desktop.start(["/usr/bin/python3", PORTAL, "2"])
-        wait_until(lambda: cls.desktop.bus_has_name("org.freedesktop.portal.Desktop"), "the portal")
+        cls.appearance = DesktopSettings(cls.desktop)
 
     def start_program(self, **variables):
         return super().start_program(QT_SCALE_FACTOR=str(self.scale), **variables)
@@ -46,13 +44,6 @@ class WindowCase(DropshadeCase):
     def checks_made(self):
         """Colours copied and sampled since the test began."""
         return self.copies_counted() - self.checks_before
-
-    def set_scheme(self, name):
-        subprocess.run(
-            ["dbus-send", "--session", "--print-reply", "--dest=org.freedesktop.portal.Desktop",
-             "/org/freedesktop/portal/desktop", "org.dropshade.TestPortal.SetScheme",
-             f"string:{SCHEMES[name]}"], env=self.desktop.environment, check=True,
-            stdout=subprocess.DEVNULL)
 
     # Windows
 
