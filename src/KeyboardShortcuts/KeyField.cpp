@@ -34,12 +34,15 @@ void KeyField::showWords(Words kind, const QString& words) {
 }
 
 void KeyField::paint(QPainter& painter) {
-    fillRounded(painter, rect(), cornerRadius(), filled(theme().surfaceField));
-    strokeEdge(painter, rect(), cornerRadius(), theme().lineEdge);
+    if (isEnabled())
+        fillRounded(painter, rect(), cornerRadius(), theme().surfaceField);
+    strokeEdge(painter, rect(), cornerRadius(),
+               blended(theme().lineEdge, theme().lineControl, hoverAmount()));
     painter.setFont(m_kind == Words::Placeholder ? textFont(TextStyle::Body) : font());
-    painter.setPen(m_kind == Words::Prompt        ? theme().accentBase
-                   : m_kind == Words::Placeholder ? theme().textTertiary
-                                                  : theme().textPrimary);
+    const bool isFaint = m_kind == Words::Placeholder || !isEnabled();
+    painter.setPen(isFaint                   ? theme().textTertiary
+                   : m_kind == Words::Prompt ? theme().accentBase
+                                             : theme().textPrimary);
     const QRect inner = rect().adjusted(metrics::space8, 0, -metrics::space8, 0);
     painter.drawText(inner, Qt::AlignCenter,
                      painter.fontMetrics().elidedText(m_words, Qt::ElideRight, inner.width()));
