@@ -1,12 +1,14 @@
 // Copyright (c) 2026 The Dropshade authors
 // SPDX-License-Identifier: MIT
 
-// Every shared control in every state, for screenshots: `gallery [light|dark] picture.png [scale]`.
+// The whole language in one picture, every shared control in every state and what floats:
+// `gallery light|dark picture.png`.
+#include "GalleryPanels.h"
 #include "GalleryRows.h"
-#include "support/FakeAppearance.h"
 
 #include <QApplication>
 #include <QPixmap>
+#include <QVBoxLayout>
 
 #include <cstdio>
 
@@ -19,14 +21,21 @@ int main(int argc, char** argv) {
         std::fputs("usage: gallery light|dark picture.png\n", stderr);
         return 2;
     }
-    FakeAppearance appearance;
-    appearance.setDark(arguments[1] == QStringLiteral("dark"));
+    FakePlatform desktop;
+    desktop.appearance.setDark(arguments[1] == QStringLiteral("dark"));
     // The states are set, not moved to.
-    appearance.setReducedMotion(true);
-    const Look look(appearance);
-    GalleryPage page(look);
-    page.show();
+    desktop.appearance.setReducedMotion(true);
+    AppDelegate delegate(std::move(desktop.platform));
+    QWidget sheet;
+    auto* rows = new GalleryRows({delegate, desktop.alerts, desktop.keyboardLayout});
+    auto* lines = new QVBoxLayout(&sheet);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
+    lines->addWidget(rows);
+    lines->addWidget(new GalleryPanels(delegate, desktop.scheduler));
+    sheet.show();
+    sheet.activateWindow();
     QApplication::processEvents();
-    page.setStates();
-    return page.grab().save(arguments[2]) ? 0 : 1;
+    rows->setStates();
+    return sheet.grab().save(arguments[2]) ? 0 : 1;
 }

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "GalleryRows.h"
 
+#include "KeyboardShortcuts/RecorderCocoa.h"
+#include "app/MenuBarIconPicker.h"
+#include "platform/ModifierKeys.h"
 #include "widgets/ColorWell.h"
 #include "widgets/IconButton.h"
 #include "widgets/Label.h"
@@ -18,6 +21,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QHoverEvent>
+#include <QRadioButton>
 
 namespace dropshade {
 
@@ -26,11 +30,48 @@ namespace {
 const QString sampleText = QStringLiteral("#E4572E");
 constexpr int fieldWidth = 140;
 
+constexpr std::uint32_t keyC = 8;
+
 enum Column { Name, Rest, Hover, Pressed, Focus, Disabled };
+
+/// The rings of what can't all have the keyboard at once, over the controls.
+class Rings : public QWidget {
+public:
+    Rings(const Look& look, const QList<QWidget*>& focused, QWidget* parent)
+        : QWidget(parent), m_look(look), m_focused(focused) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        resize(parent->size());
+        show();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        for (QWidget* control : m_focused) {
+            auto* choice = control->findChild<QRadioButton*>();
+            paintRing(painter, choice ? *choice : *control);
+        }
+    }
+
+private:
+    void paintRing(QPainter& painter, const QWidget& control) const {
+        const QVariant radius = control.property("focusRadius");
+        if (!radius.isValid())
+            return;
+        const int inset = control.property("focusInset").toInt();
+        const QRect shape(control.mapTo(parentWidget(), QPoint()), control.size());
+        drawFocusRing(painter, shape.adjusted(inset, inset, -inset, -inset), radius.toDouble(),
+                      m_look.theme());
+    }
+
+    const Look& m_look;
+    QList<QWidget*> m_focused;
+};
 
 } // namespace
 
-GalleryPage::GalleryPage(const Look& look) : m_look(look), m_grid(new QGridLayout(this)) {
+GalleryRows::GalleryRows(const Surroundings& surroundings)
+    : m_with(surroundings), m_look(surroundings.delegate.look()), m_grid(new QGridLayout(this)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_grid->setContentsMargins(40, 24, 40, 24);
     m_grid->setHorizontalSpacing(24);
@@ -38,11 +79,12 @@ GalleryPage::GalleryPage(const Look& look) : m_look(look), m_grid(new QGridLayou
     addHeads();
     addButtons();
     addFields();
+    addRecorders();
     addChoices();
-    addRest();
+    addColors();
 }
 
-void GalleryPage::addHeads() {
+void GalleryRows::addHeads() {
     m_grid->addWidget(
         new Label(m_look, TextStyle::Heading, Label::Tone::Primary, QStringLiteral("Controls")),
         m_row, Name);
@@ -56,7 +98,7 @@ void GalleryPage::addHeads() {
     ++m_row;
 }
 
-void GalleryPage::addRow(const QString& name, const Make& make) {
+void GalleryRows::addRow(const QString& name, const Make& make) {
     m_grid->addWidget(new Label(m_look, TextStyle::Control, Label::Tone::Primary, name), m_row,
                       Name);
     for (int column = Rest; column <= Disabled; ++column) {
@@ -73,7 +115,7 @@ void GalleryPage::addRow(const QString& name, const Make& make) {
     ++m_row;
 }
 
-void GalleryPage::addButtons() {
+void GalleryRows::addButtons() {
     addRow(QStringLiteral("Icon button"),
            [this] { return new IconButton(m_look, Icon::Sampler, QStringLiteral("Sample")); });
     addRow(QStringLiteral("Icon toggle, on"), [this] {
@@ -97,7 +139,7 @@ void GalleryPage::addButtons() {
     });
 }
 
-void GalleryPage::addFields() {
+void GalleryRows::addFields() {
     const auto field = [this](const QString& text, bool isFailed) {
         auto* made = new TextField(m_look, text.isEmpty() ? TextField::Content::Words
                                                           : TextField::Content::Value);
@@ -114,7 +156,7 @@ void GalleryPage::addFields() {
            [field] { return field(QStringLiteral("#E4572G"), true); });
 }
 
-void GalleryPage::addChoices() {
+void GalleryRows::addChoices() {
     const auto toggle = [this](bool on) {
         return [this, on] {
             auto* made = new Toggle(m_look, QStringLiteral("Toggle"));
@@ -144,9 +186,30 @@ void GalleryPage::addChoices() {
         segments->setCurrentIndex(0);
         return segments;
     });
+    addRow(QStringLiteral("Icon tiles"), [this] {
+        auto* tiles = new MenuBarIconPicker(m_look, QStringLiteral("Icon"));
+        tiles->setIconStyle(MenuBarIconStyle::Picker);
+        return tiles;
+    });
 }
 
-void GalleryPage::addRest() {
+void GalleryRows::addRecorders() {
+    const auto recorder = [this](const ShortcutName& name) {
+        return [this, name] {
+            auto* made = new RecorderCocoa(m_look, {m_with.delegate.shortcuts(), m_with.alerts},
+                                           name, QStringLiteral("Recorder"));
+            made->setFixedWidth(fieldWidth);
+            return made;
+        };
+    };
+    m_with.layout.setCharacter(keyC, QStringLiteral("c"));
+    m_with.delegate.shortcuts().setShortcut(Shortcut{keyC, controlKey | optionKey},
+                                            shortcutNames::convert);
+    addRow(QStringLiteral("Recorder"), recorder(shortcutNames::palettes));
+    addRow(QStringLiteral("Recorder, set"), recorder(shortcutNames::convert));
+}
+
+void GalleryRows::addColors() {
     addRow(QStringLiteral("Colour well"), [this] {
         auto* well = new ColorWell(m_look, QStringLiteral("Edit color"), metrics::control);
         well->setColor(QColor(0x48, 0x90, 0xA6));
@@ -164,7 +227,7 @@ void GalleryPage::addRest() {
     });
 }
 
-void GalleryPage::setStates() {
+void GalleryRows::setStates() {
     for (QWidget* control : std::as_const(m_hovered)) {
         QHoverEvent enter(QEvent::HoverEnter, QPointF(4, 4), QPointF(4, 4), QPointF(-1, -1));
         QApplication::sendEvent(control, &enter);
@@ -176,24 +239,25 @@ void GalleryPage::setStates() {
             button->setDown(true);
         if (auto* slider = qobject_cast<QAbstractSlider*>(control))
             slider->setSliderDown(true);
+        const auto choices = control->findChildren<QRadioButton*>();
+        if (!choices.isEmpty())
+            choices.last()->setDown(true);
     }
+    // It draws its ring by itself.
+    for (QWidget* control : std::as_const(m_focused)) {
+        if (qobject_cast<Slider*>(control))
+            control->setFocus(Qt::TabFocusReason);
+    }
+    new Rings(m_look, m_focused, this);
 }
 
-void GalleryPage::paintEvent(QPaintEvent*) {
+void GalleryRows::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Theme& theme = m_look.theme();
     painter.fillRect(rect(), theme.surfaceWindow);
     for (int row = 1; row < m_row; ++row) {
         const int y = m_grid->cellRect(row, Name).top() - m_grid->verticalSpacing() / 2;
         painter.fillRect(QRect(40, y, width() - 80, 1), theme.lineHairline);
-    }
-    for (const QWidget* control : std::as_const(m_focused)) {
-        const QVariant radius = control->property("focusRadius");
-        const int inset = control->property("focusInset").toInt();
-        if (radius.isValid())
-            drawFocusRing(painter,
-                          QRectF(control->geometry()).adjusted(inset, inset, -inset, -inset),
-                          radius.toDouble(), theme);
     }
 }
 

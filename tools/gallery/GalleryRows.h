@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/Look.h"
+#include "app/AppDelegate.h"
+#include "support/FakePlatform.h"
 
 #include <QGridLayout>
 #include <QList>
@@ -13,9 +14,15 @@
 namespace dropshade {
 
 /// A table of controls: a row for each kind, a column for each state.
-class GalleryPage : public QWidget {
+class GalleryRows : public QWidget {
 public:
-    explicit GalleryPage(const Look& look);
+    struct Surroundings {
+        AppDelegate& delegate;
+        Alerts& alerts;
+        FakeKeyboardLayout& layout;
+    };
+
+    explicit GalleryRows(const Surroundings& surroundings);
 
     /// Brings the controls of each column into its state. Once, when the page shows.
     void setStates();
@@ -31,8 +38,10 @@ private:
     void addButtons();
     void addFields();
     void addChoices();
-    void addRest();
+    void addRecorders();
+    void addColors();
 
+    Surroundings m_with;
     const Look& m_look;
     QGridLayout* m_grid;
     int m_row = 0;
