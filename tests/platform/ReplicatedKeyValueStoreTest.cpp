@@ -321,6 +321,7 @@ TEST_F(ReplicatedKeyValueStoreTest, ARefusedValueStaysHereAndIsToldOfUntilItChan
     here.write(a, QByteArray(10, 'x'));
     here.pump();
     EXPECT_TRUE(remote(a));
+    EXPECT_EQ(here.store->trouble(), QString());
 }
 
 TEST_F(ReplicatedKeyValueStoreTest, MuchGoesOutInPartsUntilAllIsThere) {

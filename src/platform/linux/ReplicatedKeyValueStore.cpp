@@ -304,6 +304,10 @@ void ReplicatedKeyValueStore::endSending(const QList<SendResult>& results) {
             m_uncommitted.insert_or_assign(key, later);
         }
     }
+    std::erase_if(m_refused, [this](const auto& refused) {
+        const Row ours = row(refused.first);
+        return !ours || ours->serial != refused.second;
+    });
     //: The server takes only values up to a size of its own.
     const QString tooLarge = tr("A palette is too large for the server and stays on this machine.");
     setTrouble(m_refusalTrouble, m_refused.empty() ? QString() : tooLarge);
