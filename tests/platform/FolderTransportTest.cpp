@@ -119,6 +119,19 @@ TEST_F(FolderTransportTest, AFileThatStaysUnreadableIsPutAsideWhenItsKeyIsWritte
     EXPECT_EQ(contentOf(folder() + QLatin1Char('/') + aside.first()), QByteArray("junk"));
 }
 
+TEST_F(FolderTransportTest, AValueThatNobodyWouldReadStaysHereAndIsToldOf) {
+    FolderMember member(folder(), replica(1));
+    member.write(a, QByteArray(ReplicaRecord::mostBytes, 'x'));
+    member.write(b, one);
+    EXPECT_TRUE(member.hasSentAll());
+    EXPECT_TRUE(member.isInTrouble());
+    EXPECT_FALSE(QFile::exists(file(a)));
+    EXPECT_EQ(stored(b), one);
+    member.write(a, two);
+    EXPECT_TRUE(member.isInTrouble(false));
+    EXPECT_EQ(stored(a), two);
+}
+
 TEST_F(FolderTransportTest, AFileOfAClockThatIsAheadHoldsUpNothing) {
     FolderMember member(folder(), replica(1));
     member.write(a, one);

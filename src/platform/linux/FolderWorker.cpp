@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -286,25 +287,27 @@ SendResult FolderWorker::send(const OutgoingEntry& entry) {
     // A file that had to go leaves nothing of what the base was; there is nothing to undo.
     if (current.version != entry.base && (current.value || !content.isThere))
         return {Outcome::Outdated, current};
-    QByteArray version;
-    if (!replace(path, entry, version))
+    QByteArray bytes;
+    if (entry.value)
+        bytes = ReplicaRecord{entry.key, *entry.value, entry.writtenAt}.encoded();
+    if (bytes.size() > ReplicaRecord::mostBytes)
+        return {Outcome::Refused, current};
+    if (!replace(path, bytes))
         return {Outcome::Failed, current};
+    const QByteArray version = entry.value ? versionOf(bytes) : QByteArray();
     return {Outcome::Stored, {entry.key, entry.value, entry.writtenAt, version}};
 }
 
-bool FolderWorker::replace(const QString& path, const OutgoingEntry& entry, QByteArray& version) {
+bool FolderWorker::replace(const QString& path, const QByteArray& bytes) {
     QString reason;
-    if (!entry.value) {
+    if (bytes.isEmpty()) {
         if (::unlink(QFile::encodeName(path).constData()) == 0 || errno == ENOENT)
             return true;
         reason = systemWords(errno);
     } else {
-        const QByteArray bytes = ReplicaRecord{entry.key, *entry.value, entry.writtenAt}.encoded();
         QSaveFile file(path);
-        if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) {
-            version = versionOf(bytes);
+        if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
             return true;
-        }
         reason = file.errorString();
     }
     //: %1 is a path, %2 the reason as the system gives it.

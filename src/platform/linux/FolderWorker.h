@@ -68,8 +68,8 @@ private:
     void readAll();
     void look(const QString& name, QList<RemoteEntry>& news);
     [[nodiscard]] SendResult send(const OutgoingEntry& entry);
-    [[nodiscard]] bool replace(const QString& path, const OutgoingEntry& entry,
-                               QByteArray& version);
+    /// No bytes mean no file.
+    [[nodiscard]] bool replace(const QString& path, const QByteArray& bytes);
     [[nodiscard]] QString pathOf(const QString& name) const;
 
     QString m_folder;
