@@ -10,7 +10,7 @@ import pathlib
 import subprocess
 import sys
 
-FOLDERS = ("src", "tests", "bench", "fuzz")
+FOLDERS = ("src", "tests", "bench", "fuzz", "tools")
 MOST_LINES = 500
 HEADER = "// Copyright (c) 2026 The Dropshade authors\n// SPDX-License-Identifier: MIT\n"
 

@@ -48,7 +48,7 @@ def unwrapped(project):
                 text = match.group("plain") or match.group("raw") or ""
                 before = source[:match.start()].rstrip()
                 before = LITERAL.sub("", before).rstrip()
-                if SETTERS.search(before + "") and WORDS.search(text) and \
+                if SETTERS.search(before) and WORDS.search(text) and \
                         text not in PROPER_NAMES:
                     yield f"{file}: “{text}” is not wrapped"
 

@@ -74,7 +74,7 @@ int main(int argc, char** argv) {
     ::alarm(dropshade::longestHangSeconds);
     QCoreApplication application(argc, argv);
     const dropshade::SoundProgram program;
-    // Now and then the toolkit takes its connection to the server down beneath the thread that reads
-    // from it. There is nothing to take down that the kernel doesn't.
+    // Now and then the toolkit takes its connection to the server down beneath the thread that
+    // reads from it. There is nothing to take down that the kernel doesn't.
     ::_exit(QCoreApplication::exec());
 }
