@@ -4,7 +4,6 @@
 
 import json
 import signal
-import subprocess
 import unittest
 
 from accessibility_case import AccessibilityCase, wait_until
@@ -25,11 +24,7 @@ class Accessibility(AccessibilityCase):
         self.restart_program()
 
     def open(self, action, title):
-        subprocess.run(
-            ["gdbus", "call", "--session", "--dest", "org.dropshade.Dropshade", "--object-path",
-             "/org/dropshade/Dropshade", "--method", "org.freedesktop.Application.ActivateAction",
-             action, "[]", "{}"], env=self.desktop.environment, capture_output=True, check=True,
-            timeout=20)
+        self.activate_action(action)
         self.wait_for_window(title)
 
     def names(self, window, role):

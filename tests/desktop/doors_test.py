@@ -3,7 +3,6 @@
 """Ways in without a mouse and without an icon: the keyboard, the bus, a second start."""
 
 import json
-import subprocess
 import time
 import unittest
 import uuid
@@ -18,14 +17,6 @@ HOST_PATIENCE_SECONDS = 10
 
 def new_id():
     return str(uuid.uuid4()).upper()
-
-
-def activate(desktop, *call):
-    """Calls the program as the desktop does; what it answers."""
-    return subprocess.run(
-        ["gdbus", "call", "--session", "--dest", "org.dropshade.Dropshade", "--object-path",
-         "/org/dropshade/Dropshade", "--method", *call],
-        env=desktop.environment, capture_output=True, text=True, check=False, timeout=20)
 
 
 class KeyboardOnly(DropshadeCase):
@@ -111,22 +102,19 @@ class Bus(DropshadeCase):
     def test_the_action_of_the_desktop_entry_picks(self):
         color = self.desktop.pixel(300, 200)
         self.desktop.own_clipboard("before")
-        answer = activate(self.desktop, "org.freedesktop.Application.ActivateAction", "quick-pick",
-                          "[]", "{}")
-        self.assertEqual(answer.returncode, 0, answer.stderr)
+        self.activate_action("quick-pick")
         self.wait_for_loupe()
         self.desktop.click(300, 200)
         self.assertEqual(self.copied_text(), hex_text(color))
 
     def test_the_program_opens_its_menu_when_activated(self):
-        answer = activate(self.desktop, "org.freedesktop.Application.Activate", "{}")
+        answer = self.call_program("Activate", "{}")
         self.assertEqual(answer.returncode, 0, answer.stderr)
         self.desktop.wait_for_menu()
         self.desktop.key("Escape")
 
     def test_an_unknown_action_is_refused(self):
-        answer = activate(self.desktop, "org.freedesktop.Application.ActivateAction", "dance", "[]",
-                          "{}")
+        answer = self.call_program("ActivateAction", "dance", "[]", "{}")
         self.assertNotEqual(answer.returncode, 0)
         self.assertIn("InvalidArgs", answer.stderr)
 

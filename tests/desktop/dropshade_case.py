@@ -7,6 +7,7 @@ import os
 import pathlib
 import sqlite3
 import struct
+import subprocess
 import sys
 import unittest
 
@@ -65,6 +66,19 @@ class RunningProgram:
 
     def copies_counted(self):
         return self.setting("totalChecksCount") or 0
+
+    def call_program(self, method, *arguments):
+        """Calls the program over the bus as the desktop does; what it answers."""
+        return subprocess.run(
+            ["gdbus", "call", "--session", "--dest", "org.dropshade.Dropshade", "--object-path",
+             "/org/dropshade/Dropshade", "--method", f"org.freedesktop.Application.{method}",
+             *arguments],
+            env=self.desktop.environment, capture_output=True, text=True, check=False, timeout=20)
+
+    def activate_action(self, action):
+        """Chooses an action of the desktop entry."""
+        answer = self.call_program("ActivateAction", action, "[]", "{}")
+        self.assertEqual(answer.returncode, 0, answer.stderr)
 
     def save_screenshot(self, name, area=None):
         SCREENSHOTS.mkdir(parents=True, exist_ok=True)

@@ -5,7 +5,7 @@
 import signal
 import unittest
 
-from dropshade_case import DropshadeCase, wait_until
+from dropshade_case import DropshadeCase, hex_text, wait_until
 
 
 class Lifecycle(DropshadeCase):
@@ -78,7 +78,6 @@ class NoMessageBus(DropshadeCase):
     VARIABLES = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/nonexistent"}
 
     def test_without_a_message_bus_the_program_still_picks(self):
-        from dropshade_case import hex_text
         color = self.desktop.pixel(200, 300)
         self.assertEqual(self.pick(200, 300), hex_text(color))
 

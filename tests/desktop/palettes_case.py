@@ -4,7 +4,6 @@
 
 import json
 import signal
-import subprocess
 import time
 import uuid
 
@@ -66,11 +65,7 @@ class PalettesCase(DropshadeCase):
         return [item["value"] for item in swatches]
 
     def open_palettes(self):
-        subprocess.run(
-            ["gdbus", "call", "--session", "--dest", "org.dropshade.Dropshade", "--object-path",
-             "/org/dropshade/Dropshade", "--method", "org.freedesktop.Application.ActivateAction",
-             "palettes", "[]", "{}"],
-            env=self.desktop.environment, capture_output=True, check=True, timeout=20)
+        self.activate_action("palettes")
         self.window = self.wait_for_window("Palettes")
         self.desktop.wait_until_still()
 

@@ -25,10 +25,6 @@ class MenuCase(WaylandCase):
     def wait_for_no_menu(self):
         self.wait_for_no_window(MENU)
 
-    def pause_after_closing_click(self):
-        """As long as the program may take a click for the one that closed its menu."""
-        time.sleep(0.3)
-
 
 class StatusMenu(MenuCase):
 
@@ -57,13 +53,11 @@ class StatusMenu(MenuCase):
         self.open_menu()
         self.click_icon()
         self.wait_for_no_menu()
-        self.pause_after_closing_click()
         self.open_menu()
 
     def test_it_opens_apart_from_the_programs_windows_and_a_click_into_one_closes_it(self):
         self.choose(CONVERT_ROW)
         left, top, _, _ = self.desktop.wait_for_window(CONVERT)
-        self.pause_after_closing_click()
         menu = self.open_menu()
         self.assertAlmostEqual(menu[1] + menu[3] / 2, self.desktop.height / 2, delta=1)
         # As far from the window's corner as the last row is from the menu's.
@@ -75,7 +69,6 @@ class StatusMenu(MenuCase):
     def test_another_window_that_gets_the_keyboard_closes_it(self):
         self.choose(CONVERT_ROW)
         self.desktop.wait_for_window(CONVERT)
-        self.pause_after_closing_click()
         self.open_menu()
         self.desktop.sway(f'[title="{CONVERT}"] focus')
         self.wait_for_no_menu()

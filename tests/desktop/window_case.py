@@ -11,7 +11,7 @@ from dropshade_case import DropshadeCase, wait_until
 GROUND = {"dark": (0x1E, 0x1E, 0x1E), "light": (0xF4, 0xF4, 0xF4)}
 MENU_ROWS = {"convert": 2, "contrast": 4}
 
-# The mock-ups' own fonts, where they are installed.
+# The fonts that the look was drawn with, where they are installed.
 FONTS = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd"><fontconfig>
 <dir>/usr/share/fonts</dir><cachedir prefix="xdg">fontconfig</cachedir>
 <match target="pattern"><test name="family"><string>Sans Serif</string></test>
