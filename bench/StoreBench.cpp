@@ -3,10 +3,12 @@
 
 // The palette store with a large library: 100 palettes of 26 scales of 11 labelled swatches.
 
+#include "StandingClock.h"
 #include "app/SettingsReaders.h"
 #include "palettes/PaletteJson.h"
 #include "palettes/UserPaletteStore.h"
 #include "platform/linux/SqliteDefaults.h"
+#include "support/LargeLibrary.h"
 #include "json/UuidText.h"
 
 #include <QJsonArray>
@@ -22,53 +24,18 @@ namespace dropshade {
 namespace {
 
 constexpr int paletteCount = 100;
-constexpr int scaleCount = 26;
-constexpr int shadeCountOfScale = 11;
-constexpr int swatchCount = paletteCount * scaleCount * shadeCountOfScale;
-
-QList<PaletteSwatch> swatches(int seed) {
-    QList<PaletteSwatch> swatches;
-    for (int shade = 0; shade < shadeCountOfScale; ++shade) {
-        const int digits = (seed * 7919 + shade * 1299709) & 0xFFFFFF;
-        swatches.append(PaletteSwatch(QStringLiteral("#%1").arg(digits, 6, 16, QLatin1Char('0')),
-                                      QStringLiteral("violet-%1").arg(shade * 100)));
-    }
-    return swatches;
-}
-
-QList<Palette> library() {
-    QList<Palette> palettes;
-    for (int palette = 0; palette < paletteCount; ++palette) {
-        QList<PaletteScale> scales;
-        for (int scale = 0; scale < scaleCount; ++scale)
-            scales.append(PaletteScale(QStringLiteral("Scale %1").arg(scale),
-                                       swatches(palette * scaleCount + scale)));
-        palettes.append(Palette(QStringLiteral("Palette %1").arg(palette), scales,
-                                ReferenceTime{700000000.123456 + palette}));
-    }
-    return palettes;
-}
-
-/// Delays that never end: what is measured here is asked for by hand.
-class StandingClock : public Scheduler {
-public:
-    std::unique_ptr<ScheduledWork> after(std::chrono::milliseconds,
-                                         std::function<void()>) override {
-        return std::make_unique<ScheduledWork>();
-    }
-    ReferenceTime now() const override { return ReferenceTime{800000000.0}; }
-};
+constexpr int swatchCount = paletteCount * 26 * 11;
 
 /// The library on a disk, with what a machine needs around it.
 struct Machine {
     Machine() {
-        defaults.setValue(keys::userPalettes, *encodedPalettes(library()));
+        defaults.setValue(keys::userPalettes, *encodedPalettes(largeLibrary(paletteCount)));
         defaults.setValue(keys::collapsedPaletteIds, QStringList());
     }
 
     QTemporaryDir folder;
     SqliteDefaults defaults{folder.filePath(QStringLiteral("defaults.sqlite"))};
-    StandingClock scheduler;
+    bench::StandingClock scheduler;
     AppSettings settings{defaults, scheduler};
     PalettePresets presets{scheduler};
 };
@@ -122,7 +89,7 @@ void editBurst(benchmark::State& state) {
 BENCHMARK(editBurst)->Name("store/1000_edits_before_their_save")->Unit(benchmark::kMillisecond);
 
 void encodeOurs(benchmark::State& state) {
-    const QList<Palette> palettes = library();
+    const QList<Palette> palettes = largeLibrary(paletteCount);
     for (auto _ : state)
         benchmark::DoNotOptimize(encodedPalettes(palettes));
     perSwatch(state);
@@ -153,7 +120,7 @@ QJsonArray tree(const QList<Palette>& palettes) {
 }
 
 void encodePeer(benchmark::State& state) {
-    const QList<Palette> palettes = library();
+    const QList<Palette> palettes = largeLibrary(paletteCount);
     for (auto _ : state)
         benchmark::DoNotOptimize(QJsonDocument(tree(palettes)).toJson(QJsonDocument::Compact));
     perSwatch(state);
@@ -162,7 +129,7 @@ BENCHMARK(encodePeer)->Name("json/encode/peer")->Unit(benchmark::kMillisecond);
 
 /// Ours makes palettes with parsed colours; the peer only parses.
 void decodeOurs(benchmark::State& state) {
-    const QByteArray json = *encodedPalettes(library());
+    const QByteArray json = *encodedPalettes(largeLibrary(paletteCount));
     for (auto _ : state)
         benchmark::DoNotOptimize(decodedPalettes(json, {}));
     perSwatch(state);
@@ -170,7 +137,7 @@ void decodeOurs(benchmark::State& state) {
 BENCHMARK(decodeOurs)->Name("json/decode/ours")->Unit(benchmark::kMillisecond);
 
 void decodePeer(benchmark::State& state) {
-    const QByteArray json = *encodedPalettes(library());
+    const QByteArray json = *encodedPalettes(largeLibrary(paletteCount));
     for (auto _ : state)
         benchmark::DoNotOptimize(QJsonDocument::fromJson(json));
     perSwatch(state);
@@ -180,7 +147,7 @@ BENCHMARK(decodePeer)->Name("json/decode/peer")->Unit(benchmark::kMillisecond);
 /// One question for each swatch of the library, of which one in a hundred is a favourite.
 void pinLookUps(benchmark::State& state) {
     Machine machine;
-    const QList<Palette> palettes = library();
+    const QList<Palette> palettes = largeLibrary(paletteCount);
     QList<QUuid> ids;
     for (const Palette& palette : palettes) {
         for (const PaletteScale& scale : palette.scales()) {
@@ -202,7 +169,7 @@ void pinLookUps(benchmark::State& state) {
 BENCHMARK(pinLookUps)->Name("pins/look_ups")->Unit(benchmark::kMicrosecond);
 
 void copyLibrary(benchmark::State& state) {
-    const QList<Palette> palettes = library();
+    const QList<Palette> palettes = largeLibrary(paletteCount);
     for (auto _ : state) {
         QList<Palette> copy = palettes;
         benchmark::DoNotOptimize(copy);

@@ -3,10 +3,12 @@
 
 // The engine over a replica on the disk, with libraries of palettes of 286 labelled swatches.
 
+#include "StandingClock.h"
 #include "app/SettingsReaders.h"
 #include "palettes/PaletteJson.h"
 #include "platform/linux/ReplicatedKeyValueStore.h"
 #include "platform/linux/SqliteDefaults.h"
+#include "support/LargeLibrary.h"
 #include "sync/CloudSyncEngine.h"
 #include "sync/SyncValueCodec.h"
 
@@ -19,35 +21,7 @@
 namespace dropshade {
 namespace {
 
-constexpr int scaleCount = 26;
-constexpr int shadeCount = 11;
-constexpr int swatchCount = scaleCount * shadeCount;
-
-Palette paletteOf(int number) {
-    QList<PaletteScale> scales;
-    for (int scale = 0; scale < scaleCount; ++scale) {
-        QList<PaletteSwatch> swatches;
-        for (int shade = 0; shade < shadeCount; ++shade) {
-            const int digits = ((number * scaleCount + scale) * 7919 + shade * 1299709) & 0xFFFFFF;
-            swatches.append(
-                PaletteSwatch(QStringLiteral("#%1").arg(digits, 6, 16, QLatin1Char('0')),
-                              QStringLiteral("violet-%1").arg(shade * 100)));
-        }
-        scales.append(PaletteScale(QStringLiteral("Scale %1").arg(scale), swatches));
-    }
-    return Palette(QStringLiteral("Palette %1").arg(number), scales,
-                   ReferenceTime{700000000.123456 + number});
-}
-
-/// Delays that never end: what is measured here is asked for by hand.
-class StandingClock : public Scheduler {
-public:
-    std::unique_ptr<ScheduledWork> after(std::chrono::milliseconds,
-                                         std::function<void()>) override {
-        return std::make_unique<ScheduledWork>();
-    }
-    ReferenceTime now() const override { return ReferenceTime{800000000.0}; }
-};
+constexpr int swatchCount = 26 * 11;
 
 /// A transport that brings what the benchmark gives it, and takes nothing.
 class HandTransport : public ReplicaTransport {
@@ -72,7 +46,7 @@ struct Machine {
     explicit Machine(int paletteCount) {
         engine.start();
         for (int number = 0; number < paletteCount; ++number) {
-            const Palette palette = paletteOf(number);
+            const Palette palette = largePalette(number);
             news.append({cloudKeys::palette(palette.id()),
                          compressedValue(*encodedPalette(palette)), ReferenceTime{}, "1"});
         }
@@ -80,7 +54,7 @@ struct Machine {
 
     QTemporaryDir folder;
     EmptyLibrary defaults{folder.filePath(QStringLiteral("defaults.sqlite"))};
-    StandingClock scheduler;
+    bench::StandingClock scheduler;
     AppSettings settings{defaults, scheduler};
     PalettePresets presets{scheduler};
     UserPaletteStore palettes{defaults, scheduler, settings, presets};
@@ -179,9 +153,7 @@ BENCHMARK(pushOfOne)
 /// All of a library goes into a cloud that has nothing of it: encoded, compressed and kept, in one
 /// turn.
 void firstPush(benchmark::State& state) {
-    QList<Palette> palettes;
-    for (int number = 0; number < state.range(0); ++number)
-        palettes.append(paletteOf(number));
+    const QList<Palette> palettes = largeLibrary(int(state.range(0)));
     for (auto _ : state) {
         state.PauseTiming();
         auto machine = std::make_unique<Machine>(0);
@@ -206,7 +178,7 @@ BENCHMARK(firstPush)
 void keepLibrary(benchmark::State& state) {
     QList<std::pair<QString, QByteArray>> values;
     for (int number = 0; number < state.range(0); ++number) {
-        const Palette palette = paletteOf(number);
+        const Palette palette = largePalette(number);
         values.append(
             {cloudKeys::palette(palette.id()), compressedValue(*encodedPalette(palette))});
     }
@@ -230,7 +202,7 @@ BENCHMARK(keepLibrary)
     ->Unit(benchmark::kMillisecond);
 
 void compress(benchmark::State& state) {
-    const QByteArray json = *encodedPalette(paletteOf(1));
+    const QByteArray json = *encodedPalette(largePalette(1));
     std::size_t size = 0;
     for (auto _ : state)
         size = std::size_t(compressedValue(json).size());
@@ -240,7 +212,7 @@ void compress(benchmark::State& state) {
 BENCHMARK(compress)->Name("sync/compress")->Unit(benchmark::kMicrosecond);
 
 void decompress(benchmark::State& state) {
-    const QByteArray value = compressedValue(*encodedPalette(paletteOf(1)));
+    const QByteArray value = compressedValue(*encodedPalette(largePalette(1)));
     for (auto _ : state)
         benchmark::DoNotOptimize(decompressedValue(value));
 }

@@ -10,6 +10,7 @@
 #include "platform/linux/QtScheduler.h"
 #include "support/CloudMember.h"
 #include "support/EtcdServer.h"
+#include "support/LargeLibrary.h"
 #include "support/LongestTurn.h"
 #include "sync/CloudPalettes.h"
 #include "sync/SyncValueCodec.h"
@@ -58,26 +59,11 @@ private:
     QTcpServer m_server;
 };
 
-Palette paletteOf(int number) {
-    QList<PaletteScale> scales;
-    for (int scale = 0; scale < 26; ++scale) {
-        QList<PaletteSwatch> swatches;
-        for (int shade = 0; shade < 11; ++shade)
-            swatches.append(
-                PaletteSwatch(QStringLiteral("#%1").arg(
-                                  (number * 7919 + scale * 104729 + shade * 1299709) & 0xFFFFFF, 6,
-                                  16, QLatin1Char('0')),
-                              QStringLiteral("violet-%1").arg(shade * 100)));
-        scales.append(PaletteScale(QStringLiteral("Scale %1").arg(scale), swatches));
-    }
-    return Palette(QStringLiteral("Palette %1").arg(number), scales, ReferenceTime{7e8 + number});
-}
-
 /// The median of the times until `second` sees what `first` writes, in milliseconds.
 double latency(CloudMember& first, CloudMember& second) {
     std::vector<double> times;
     for (int round = 0; round < 30; ++round) {
-        const CloudValue value = compressedValue(*encodedPalette(paletteOf(round)));
+        const CloudValue value = compressedValue(*encodedPalette(largePalette(round)));
         QElapsedTimer timer;
         timer.start();
         first.write(QStringLiteral("palette.X"), value);
@@ -93,7 +79,7 @@ double latency(CloudMember& first, CloudMember& second) {
 void library(const char* name, CloudMember& first,
              const std::function<std::unique_ptr<CloudMember>()>& makeSecond, int count) {
     for (int number = 0; number < count; ++number) {
-        const Palette palette = paletteOf(number);
+        const Palette palette = largePalette(number);
         first.store().setValue(cloudKeys::palette(palette.id()),
                                compressedValue(*encodedPalette(palette)));
     }
@@ -158,7 +144,7 @@ void measureEtcd() {
         const auto counted = member(3, proxy.address());
         QTest::qWait(1000); // To connect and list.
         proxy.sent = proxy.received = proxy.requests = 0;
-        const QByteArray value = compressedValue(*encodedPalette(paletteOf(77)));
+        const QByteArray value = compressedValue(*encodedPalette(largePalette(77)));
         // As the engine does it: the palette, the tombstones, the order and its moment.
         counted->store().setValue(QStringLiteral("palette.tombstones"), compressedValue("[]"));
         counted->store().setValue(QStringLiteral("palette.X"), value);
