@@ -10,6 +10,8 @@
 #include <QFontMetrics>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace dropshade {
 
 namespace {
@@ -91,8 +93,7 @@ void drawMenuPanel(QPainter& painter, const QRect& panel, const Theme& theme) {
     strokeEdge(painter, panel, metrics::radiusSurface, theme.lineEdge);
 }
 
-void drawMenuRow(QPainter& painter, const QStyleOptionMenuItem& item, const QWidget*,
-                 const Theme& theme) {
+void drawMenuRow(QPainter& painter, const QStyleOptionMenuItem& item, const Theme& theme) {
     const QRect row = item.rect;
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
         const int middle = row.center().y();

@@ -14,8 +14,7 @@ inline constexpr int menuPadding = 6;
 
 void drawMenuPanel(QPainter& painter, const QRect& panel, const Theme& theme);
 
-void drawMenuRow(QPainter& painter, const QStyleOptionMenuItem& item, const QWidget* menu,
-                 const Theme& theme);
+void drawMenuRow(QPainter& painter, const QStyleOptionMenuItem& item, const Theme& theme);
 
 /// The strip that stands for the rows beyond the end of a menu taller than the screen.
 void drawMenuScroller(QPainter& painter, const QStyleOption& option, const Theme& theme);

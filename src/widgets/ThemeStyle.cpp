@@ -75,7 +75,7 @@ void ThemeStyle::drawControl(ControlElement element, const QStyleOption* option,
     switch (element) {
     case CE_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {
-            drawMenuRow(*painter, *item, widget, m_theme);
+            drawMenuRow(*painter, *item, m_theme);
             return;
         }
         break;
