@@ -24,9 +24,8 @@ struct LoadedImage {
 
 /// Reads images from files that anybody may have made.
 ///
-/// - PNG, JPEG (CMYK too), GIF (the first frame), BMP, TIFF (the first page), WebP and HEIC, told
-/// by
-///   their first bytes and not by their names.
+/// - PNG, JPEG (CMYK too), GIF (the first frame), BMP, TIFF (the first page), WebP and HEIC.
+/// - The format is told by the first bytes and not by the name.
 /// - An orientation mark is obeyed, an embedded colour profile is converted to sRGB.
 /// - A file that is damaged, cut short, larger than `largestFile`, or whose size is out of all
 ///   proportion to its data, gives no image, within 200 ms and 256 MiB of memory.

@@ -105,7 +105,6 @@ void ImageZone::paint(QPainter& painter) {
 }
 
 QRectF ImageZone::imageArea() const {
-    // Never enlarged beyond its pixels by more than it must be to be seen.
     const QSizeF size = QSizeF(m_image.size()).scaled(QSizeF(this->size()), Qt::KeepAspectRatio);
     const QSizeF whole(std::max(1.0, std::round(size.width())),
                        std::max(1.0, std::round(size.height())));

@@ -17,7 +17,7 @@
 namespace dropshade {
 
 class ListActions;
-class ListElement;
+struct ListElement;
 class ListKeys;
 class ListPointer;
 class PaletteDropOverlay;

@@ -11,9 +11,8 @@
 
 namespace dropshade {
 
-/// Takes the pointer and the keyboard for one connection: an invisible window over all screens,
-/// and grabs. Another program may hold either for a while (the panel whose icon is being pressed,
-/// an open menu); the capture then asks again until it has both.
+/// Takes the pointer and the keyboard for one connection, by an invisible window over all screens
+/// and grabs, and lets go of them when it ends.
 class X11InputCapture {
 public:
     X11InputCapture(const XcbConnection& connection, const QRect& bounds);
