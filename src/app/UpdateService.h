@@ -7,6 +7,8 @@
 #include "platform/Scheduler.h"
 #include "platform/UserDefaults.h"
 
+#include <variant>
+
 namespace dropshade {
 
 /// Learns of newer versions and tells the user of them; it never downloads or runs one. It checks

@@ -7,6 +7,7 @@
 #include <cassert>
 #include <cstring>
 #include <utility>
+#include <vector>
 
 namespace dropshade::ImageQuantizer {
 

@@ -25,6 +25,8 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace dropshade {
 
 namespace {

@@ -7,6 +7,7 @@
 #include <cassert>
 #include <limits>
 #include <numeric>
+#include <vector>
 
 namespace dropshade::ImageQuantizer {
 

@@ -12,6 +12,7 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <string>
 

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <charconv>
+#include <vector>
 
 namespace dropshade {
 namespace {

@@ -6,6 +6,7 @@
 #include "interchange/ImportedNames.h"
 #include "interchange/UniqueNames.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace dropshade {

@@ -10,6 +10,8 @@
 #include <QFontMetrics>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace dropshade {
 namespace {
 

@@ -4,6 +4,8 @@
 
 #include "platform/CloudKeyValueStore.h"
 
+#include <map>
+
 namespace dropshade {
 
 /// Bytes of values, by estimate, up to which nobody needs to worry about the limits of a store.

@@ -10,6 +10,8 @@
 #include <QSet>
 #include <QThread>
 
+#include <map>
+
 namespace dropshade {
 
 /// A cloud made of a replica on the disk and a transport to where the machines meet.
