@@ -1584,9 +1584,9 @@ Name of the list for screen readers</extracomment>
         <translation>Der Datenträger ist voll oder nicht beschreibbar.</translation>
     </message>
     <message>
-        <source>A palette is too large for the server and stays on this machine.</source>
-        <extracomment>The server takes only values up to a size of its own.</extracomment>
-        <translation>Eine Palette ist zu groß für den Server und bleibt auf diesem Rechner.</translation>
+        <source>Something is too large to be synced and stays on this machine.</source>
+        <extracomment>The folder or server of sync takes only values up to a size; most are palettes.</extracomment>
+        <translation>Etwas ist zu groß, um synchronisiert zu werden, und bleibt auf diesem Rechner.</translation>
     </message>
 </context>
 <context>

@@ -1584,9 +1584,9 @@ Name of the list for screen readers</extracomment>
         <translation>The disk is full or can&apos;t be written.</translation>
     </message>
     <message>
-        <source>A palette is too large for the server and stays on this machine.</source>
-        <extracomment>The server takes only values up to a size of its own.</extracomment>
-        <translation>A palette is too large for the server and stays on this machine.</translation>
+        <source>Something is too large to be synced and stays on this machine.</source>
+        <extracomment>The folder or server of sync takes only values up to a size; most are palettes.</extracomment>
+        <translation>Something is too large to be synced and stays on this machine.</translation>
     </message>
 </context>
 <context>

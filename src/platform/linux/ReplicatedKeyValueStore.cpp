@@ -308,8 +308,8 @@ void ReplicatedKeyValueStore::endSending(const QList<SendResult>& results) {
         const Row ours = row(refused.first);
         return !ours || ours->serial != refused.second;
     });
-    //: The server takes only values up to a size of its own.
-    const QString tooLarge = tr("A palette is too large for the server and stays on this machine.");
+    //: The folder or server of sync takes only values up to a size; most are palettes.
+    const QString tooLarge = tr("Something is too large to be synced and stays on this machine.");
     setTrouble(m_refusalTrouble, m_refused.empty() ? QString() : tooLarge);
     take(news);
     static_cast<void>(commit());
