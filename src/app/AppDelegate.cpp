@@ -206,9 +206,9 @@ void AppDelegate::loadPalettes() {
 
 CloudSyncEngine& AppDelegate::syncEngine() {
     if (!m_syncEngine)
-        m_syncEngine = std::make_unique<CloudSyncEngine>(
-            CloudSyncEngine::Surroundings{*m_platform.cloudStore, *m_platform.defaults,
-                                          *m_platform.scheduler, m_settings, paletteStore()});
+        m_syncEngine = std::make_unique<CloudSyncEngine>(CloudSyncEngine::Surroundings{
+            *m_platform.cloudStore, *m_platform.defaults, *m_platform.scheduler, m_settings,
+            paletteStore(), *m_platform.backgroundQueue});
     return *m_syncEngine;
 }
 

@@ -8,6 +8,7 @@
 #include "json/UuidText.h"
 
 #include <QCryptographicHash>
+#include <QSet>
 
 namespace dropshade {
 namespace {
@@ -20,6 +21,25 @@ struct ToDouble {
     double operator()(const QByteArray&) const { return 0.0; }
     double operator()(const QStringList&) const { return 0.0; }
 };
+
+QByteArray digestOf(const QByteArray& value) {
+    return QCryptographicHash::hash(value, QCryptographicHash::Sha1);
+}
+
+/// Whether it is one and the same, without a look at what is in it.
+bool isSame(const Palette& a, const Palette& b) {
+    return a.id() == b.id() && a.lastModified() == b.lastModified() && a.name() == b.name() &&
+           a.scales().constData() == b.scales().constData();
+}
+
+CloudPalettes::Prepared preparedOf(const Palette& palette) {
+    if (const auto json = encodedPalette(palette)) {
+        const QByteArray value = sharedValue(*json);
+        if (value.size() < palettesTooLarge)
+            return {palette, value, digestOf(value)};
+    }
+    return {palette, std::nullopt, QByteArray()};
+}
 
 } // namespace
 
@@ -43,12 +63,16 @@ std::optional<QByteArray> CloudPalettes::text(const std::optional<CloudValue>& v
 
 QHash<QUuid, ReferenceTime> CloudPalettes::stamps() {
     QHash<QUuid, ReferenceTime> found;
+    QSet<QUuid> present;
     for (const auto& [key, value] : m_store.dictionaryRepresentation()) {
         const auto id = cloudKeys::paletteId(key);
+        if (id)
+            present.insert(*id);
         const auto lastModified = id ? glanceAt(*id, value) : std::nullopt;
         if (lastModified)
             found.insert(*id, *lastModified);
     }
+    m_glances.removeIf([&present](const auto& glance) { return !present.contains(glance.key()); });
     return found;
 }
 
@@ -76,7 +100,7 @@ std::optional<ReferenceTime> CloudPalettes::glanceAt(const QUuid& id, const Clou
     const QByteArray* data = std::get_if<QByteArray>(&value);
     if (data == nullptr)
         return std::nullopt;
-    const QByteArray digest = QCryptographicHash::hash(*data, QCryptographicHash::Sha1);
+    const QByteArray digest = digestOf(*data);
     const auto known = m_glances.constFind(id);
     if (known != m_glances.cend() && known->digest == digest)
         return known->lastModified;
@@ -94,13 +118,46 @@ std::optional<ReferenceTime> CloudPalettes::glanceAt(const QUuid& id, const Clou
     return lastModified;
 }
 
+QList<Palette> CloudPalettes::lacking(const QList<Palette>& palettes) const {
+    QList<Palette> lacking;
+    for (const Palette& palette : palettes) {
+        const auto known = m_glances.constFind(palette.id());
+        if (known == m_glances.cend() || !known->lastModified ||
+            *known->lastModified < palette.lastModified())
+            lacking.append(palette);
+    }
+    return lacking;
+}
+
+QList<CloudPalettes::Prepared> CloudPalettes::prepared(const QList<Palette>& palettes,
+                                                       const std::stop_token& token) {
+    QList<Prepared> all;
+    for (const Palette& palette : palettes) {
+        if (token.stop_requested())
+            break;
+        all.append(preparedOf(palette));
+    }
+    return all;
+}
+
+void CloudPalettes::setPrepared(const QList<Prepared>& prepared) {
+    for (const Prepared& one : prepared)
+        m_prepared.insert(one.palette.id(), one);
+}
+
 void CloudPalettes::save(const Palette& palette) {
-    const auto json = encodedPalette(palette);
-    if (!json)
+    const auto known = m_prepared.constFind(palette.id());
+    const bool isPrepared = known != m_prepared.cend() && isSame(known->palette, palette);
+    const Prepared own = isPrepared ? *known : preparedOf(palette);
+    if (!own.value)
         return;
-    const QByteArray value = sharedValue(*json);
-    if (value.size() < palettesTooLarge)
-        m_store.setValue(cloudKeys::palette(palette.id()), value);
+    m_store.setValue(cloudKeys::palette(palette.id()), *own.value);
+    m_glances.insert(palette.id(), {own.digest, palette.lastModified()});
+}
+
+void CloudPalettes::forgetDecoded() {
+    m_decoded.clear();
+    m_prepared.clear();
 }
 
 void CloudPalettes::remove(const QUuid& id) {

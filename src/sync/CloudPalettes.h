@@ -10,6 +10,7 @@
 #include <QHash>
 
 #include <optional>
+#include <stop_token>
 
 namespace dropshade {
 
@@ -43,8 +44,26 @@ public:
     [[nodiscard]] std::optional<ReferenceTime> stamp(const QUuid& id);
     [[nodiscard]] std::optional<Palette> palette(const QUuid& id);
 
+    /// Those of the palettes that the cloud lacks or has an earlier copy of, as far as the last
+    /// looks at it tell.
+    [[nodiscard]] QList<Palette> lacking(const QList<Palette>& palettes) const;
+
+    /// What a palette is in the cloud, made of it beforehand.
+    struct Prepared {
+        Palette palette;
+        /// Nothing where it is too large, or has no form in JSON.
+        std::optional<QByteArray> value;
+        QByteArray digest;
+    };
+    /// On any thread; as many as there are until nobody waits for them any more.
+    [[nodiscard]] static QList<Prepared> prepared(const QList<Palette>& palettes,
+                                                  const std::stop_token& token = {});
+
     /// Leaves a palette that is too large unwritten.
     void save(const Palette& palette);
+    /// Has `save` take these as they are, for as long as the palettes are the same, up to the next
+    /// `forgetDecoded`.
+    void setPrepared(const QList<Prepared>& prepared);
     void remove(const QUuid& id);
 
     /// Without those that have expired.
@@ -56,8 +75,9 @@ public:
     [[nodiscard]] double orderUpdatedAt() const;
     void saveOrder(const QList<QUuid>& ids);
 
-    /// Lets go of the palettes decoded since the last call; what is known of their values stays.
-    void forgetDecoded() { m_decoded.clear(); }
+    /// Lets go of the palettes decoded and prepared since the last call; what is known of their
+    /// values stays.
+    void forgetDecoded();
     /// The text in a value of a key, or nothing.
     [[nodiscard]] static std::optional<QByteArray> text(const std::optional<CloudValue>& value);
 
@@ -76,6 +96,7 @@ private:
     Scheduler& m_scheduler;
     QHash<QUuid, Glance> m_glances;
     QHash<QUuid, Palette> m_decoded;
+    QHash<QUuid, Prepared> m_prepared;
 };
 
 } // namespace dropshade

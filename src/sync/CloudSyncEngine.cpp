@@ -48,12 +48,22 @@ QList<PaletteStamp> stampsOf(const QList<Palette>& palettes) {
     return stamps;
 }
 
+qsizetype swatchCountOf(const QList<Palette>& palettes) {
+    qsizetype count = 0;
+    for (const Palette& palette : palettes) {
+        for (const PaletteScale& scale : palette.scales())
+            count += scale.swatches().size();
+    }
+    return count;
+}
+
 } // namespace
 
 CloudSyncEngine::CloudSyncEngine(const Surroundings& surroundings)
     : m_kvs(surroundings.kvs), m_defaults(surroundings.defaults),
       m_scheduler(surroundings.scheduler), m_settings(surroundings.settings),
-      m_palettes(surroundings.palettes), m_cloudPalettes(m_kvs, m_scheduler) {}
+      m_palettes(surroundings.palettes), m_backgroundQueue(surroundings.backgroundQueue),
+      m_cloudPalettes(m_kvs, m_scheduler) {}
 
 CloudSyncEngine::~CloudSyncEngine() {
     for (const auto& observer : m_observers)
@@ -71,7 +81,7 @@ void CloudSyncEngine::start() {
     m_kvs.synchronize();
     pullAll();
     pushPrefs();
-    pushPalettes();
+    beginPalettePush();
     checkSizeBudget();
     becomeIdle();
 }
@@ -84,6 +94,7 @@ void CloudSyncEngine::stop() {
     m_observers.clear();
     m_pendingPrefsPush.reset();
     m_pendingPalettePush.reset();
+    m_preparation.reset();
     m_lastBaseline.clear();
     m_kvs.close();
     setStatus({Status::Kind::Off, {}});
@@ -96,7 +107,7 @@ void CloudSyncEngine::flushPendingPushes() {
         return;
     if (m_pendingPrefsPush)
         pushPrefs();
-    if (m_pendingPalettePush)
+    if (m_pendingPalettePush || m_preparation)
         pushPalettes();
     m_kvs.synchronize();
 }
@@ -118,7 +129,7 @@ void CloudSyncEngine::schedulePrefsPush() {
 }
 
 void CloudSyncEngine::schedulePalettePush() {
-    m_pendingPalettePush = m_scheduler.after(palettePushDelay, [this] { pushPalettes(); });
+    m_pendingPalettePush = m_scheduler.after(palettePushDelay, [this] { beginPalettePush(); });
 }
 
 void CloudSyncEngine::pullAll() {
@@ -197,8 +208,31 @@ void CloudSyncEngine::handleRemoteChange(const QStringList& keys) {
     becomeIdle();
 }
 
+/// The push itself is one turn of the main thread, with the palettes as they are then: what has
+/// changed since it began to be prepared is encoded in it.
+void CloudSyncEngine::beginPalettePush() {
+    if (m_preparation)
+        return;
+    const QList<Palette> lacking = m_cloudPalettes.lacking(m_palettes.palettes());
+    if (swatchCountOf(lacking) <= mostSwatchesAtOnce) {
+        pushPalettes();
+        return;
+    }
+    m_pendingPalettePush.reset();
+    if (m_status.kind != Status::Kind::Error)
+        setStatus({Status::Kind::Syncing, {}});
+    m_preparation = m_backgroundQueue.run(
+        [this, lacking](const std::stop_token& token) -> BackgroundQueue::Landing {
+            return [this, prepared = CloudPalettes::prepared(lacking, token)] {
+                m_cloudPalettes.setPrepared(prepared);
+                pushPalettes();
+            };
+        });
+}
+
 void CloudSyncEngine::pushPalettes() {
     m_pendingPalettePush.reset();
+    m_preparation.reset();
     const QList<Palette> palettes = m_palettes.palettes();
     buryDeleted(palettes);
     QList<QUuid> order;
@@ -293,7 +327,7 @@ void CloudSyncEngine::setStatus(const Status& status) {
 }
 
 void CloudSyncEngine::becomeIdle() {
-    if (m_status.kind == Status::Kind::Error)
+    if (m_status.kind == Status::Kind::Error || m_preparation)
         return;
     setStatus({Status::Kind::Idle, {}});
     m_lastSyncDate = m_scheduler.now();
@@ -306,7 +340,7 @@ void CloudSyncEngine::followTrouble() {
     if (!trouble.isEmpty())
         setStatus({Status::Kind::Error, trouble});
     else if (m_status.kind == Status::Kind::Error)
-        setStatus({Status::Kind::Idle, {}});
+        setStatus({m_preparation ? Status::Kind::Syncing : Status::Kind::Idle, {}});
 }
 
 } // namespace dropshade

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "palettes/UserPaletteStore.h"
+#include "platform/BackgroundQueue.h"
 #include "platform/CloudKeyValueStore.h"
 #include "sync/CloudPalettes.h"
 #include "sync/SyncedKeys.h"
@@ -42,7 +43,12 @@ public:
         Scheduler& scheduler;
         AppSettings& settings;
         UserPaletteStore& palettes;
+        BackgroundQueue& backgroundQueue;
     };
+
+    /// More than these are encoded beside the main thread before a push, which they would make too
+    /// long a turn of it.
+    static constexpr qsizetype mostSwatchesAtOnce = 4'000;
 
     explicit CloudSyncEngine(const Surroundings& surroundings);
     ~CloudSyncEngine() override;
@@ -74,6 +80,7 @@ private:
     void pullAll();
     void pushPrefs();
     void pullPalettes();
+    void beginPalettePush();
     void pushPalettes();
     void handleRemoteChange(const QStringList& keys);
     void schedulePrefsPush();
@@ -94,6 +101,7 @@ private:
     Scheduler& m_scheduler;
     AppSettings& m_settings;
     UserPaletteStore& m_palettes;
+    BackgroundQueue& m_backgroundQueue;
     CloudPalettes m_cloudPalettes;
 
     Status m_status;
@@ -102,6 +110,8 @@ private:
     bool m_isStarted = false;
     std::unique_ptr<ScheduledWork> m_pendingPrefsPush;
     std::unique_ptr<ScheduledWork> m_pendingPalettePush;
+    /// Encodes what the push after it gives.
+    std::unique_ptr<BackgroundWork> m_preparation;
     /// The palettes that were in sync after the last push or pull: one that is missing since was
     /// deleted here.
     QHash<QUuid, ReferenceTime> m_lastBaseline;

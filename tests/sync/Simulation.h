@@ -6,6 +6,7 @@
 #include "palettes/PaletteJson.h"
 #include "platform/linux/ReplicatedKeyValueStore.h"
 #include "support/Machine.h"
+#include "support/ManualBackgroundQueue.h"
 #include "support/SimulatedServer.h"
 #include "sync/CloudSyncEngine.h"
 #include "json/UuidText.h"
@@ -39,7 +40,7 @@ public:
                                            [this](const CloudAccount&) { return m_replica; }});
         m_engine = std::make_unique<CloudSyncEngine>(
             CloudSyncEngine::Surroundings{*m_kvs, m_machine.defaults(), m_machine.scheduler(),
-                                          m_machine.settings(), m_machine.store()});
+                                          m_machine.settings(), m_machine.store(), m_queue});
         QObject::connect(&m_machine.store(), &UserPaletteStore::didChange, [this] { ++saves; });
         m_engine->start();
     }
@@ -77,6 +78,7 @@ private:
     SimulatedServer& m_server;
     QString m_replica;
     Machine m_machine;
+    ManualBackgroundQueue m_queue;
     std::unique_ptr<ReplicatedKeyValueStore> m_kvs;
     SimulatedTransport* m_transport = nullptr;
     std::unique_ptr<CloudSyncEngine> m_engine;

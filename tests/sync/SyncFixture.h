@@ -5,6 +5,7 @@
 #include "app/SettingsReaders.h"
 #include "palettes/PaletteJson.h"
 #include "support/Machine.h"
+#include "support/ManualBackgroundQueue.h"
 #include "support/MemoryCloudStore.h"
 #include "support/Palettes.h"
 #include "support/QtPrinters.h"
@@ -49,7 +50,7 @@ protected:
     CloudSyncEngine& engine() {
         if (!m_engine)
             m_engine = std::make_unique<CloudSyncEngine>(CloudSyncEngine::Surroundings{
-                m_cloud, defaults(), scheduler(), settings(), store()});
+                m_cloud, defaults(), scheduler(), settings(), store(), m_queue});
         return *m_engine;
     }
 
@@ -94,6 +95,7 @@ protected:
 
     Machine m_machine;
     MemoryCloudStore m_cloud;
+    ManualBackgroundQueue m_queue;
     std::unique_ptr<CloudSyncEngine> m_engine;
 };
 

@@ -4,6 +4,7 @@
 // Two whole machines in real time: settings and palettes by way of a real folder and a real etcd.
 
 #include "app/SettingsReaders.h"
+#include "platform/linux/PoolBackgroundQueue.h"
 #include "support/CloudMember.h"
 #include "support/EtcdServer.h"
 #include "support/Palettes.h"
@@ -33,6 +34,7 @@ private:
     EmptyLibrary m_defaults;
     QtScheduler m_scheduler;
     PalettePresets m_presets{m_scheduler};
+    PoolBackgroundQueue m_backgroundQueue;
     ReplicatedKeyValueStore m_kvs;
 
 public:
@@ -40,7 +42,7 @@ public:
 
     AppSettings settings{m_defaults, m_scheduler};
     UserPaletteStore palettes{m_defaults, m_scheduler, settings, m_presets};
-    CloudSyncEngine engine{{m_kvs, m_defaults, m_scheduler, settings, palettes}};
+    CloudSyncEngine engine{{m_kvs, m_defaults, m_scheduler, settings, palettes, m_backgroundQueue}};
 };
 
 class WholeMachines : public testing::Test {
