@@ -87,7 +87,7 @@ TEST_F(AppDelegateTest, QuickPickSamplesOnceTheMenuHasFadedFromTheScreen) {
     EXPECT_TRUE(fakes.screenSampler.isUp());
 }
 
-TEST_F(AppDelegateTest, ARememberedColourIsCopiedWithItsSoundAndCountsForNothing) {
+TEST_F(AppDelegateTest, ARememberedColorIsCopiedWithItsSoundAndCountsForNothing) {
     delegate.copyColor(pink);
     delegate.copyColor(SRGBColor(0, 0, 0));
     const auto recents = loadRecentColors(fakes.defaults);
@@ -103,7 +103,7 @@ TEST_F(AppDelegateTest, ARememberedColourIsCopiedWithItsSoundAndCountsForNothing
     EXPECT_EQ(fakes.soundPlayer.played().size(), 3);
 }
 
-TEST_F(AppDelegateTest, AFavouriteIsCopiedAndTheRecentColoursCanBeCleared) {
+TEST_F(AppDelegateTest, AFavouriteIsCopiedAndTheRecentColorsCanBeCleared) {
     const Palette palette = delegate.paletteStore().palettes().first();
     const PaletteScale& scale = palette.scales().first();
     delegate.settings().pinSwatch(scale.swatches().first(), palette, scale);
@@ -261,7 +261,7 @@ TEST_F(AppDelegateExport, AnEndThatNobodyAskedForFindsTheFileWritten) {
     EXPECT_TRUE(QFile::exists(file));
 }
 
-TEST_F(AppDelegateTest, PutsThePickedColourOnTheClipboardAsHexByDefault) {
+TEST_F(AppDelegateTest, PutsThePickedColorOnTheClipboardAsHexByDefault) {
     delegate.startPick();
     fakes.screenSampler.pick(pink);
     EXPECT_EQ(fakes.pasteboard.copies(), QStringList{QStringLiteral("#FF0080")});
@@ -309,7 +309,7 @@ TEST_F(AppDelegateTest, TwoQuickTriggersStartOneSampler) {
     EXPECT_EQ(fakes.screenSampler.sampleCount(), 1);
 }
 
-TEST_F(AppDelegateTest, CopiesAColourInAFormatOfTheCallersChoice) {
+TEST_F(AppDelegateTest, CopiesAColorInAFormatOfTheCallersChoice) {
     delegate.copyColor(pink, ColorFormat::cssRGBA);
     EXPECT_EQ(fakes.pasteboard.text(), QStringLiteral("rgb(255 0 128 / 0.5)"));
     EXPECT_EQ(copyCount(), 1);

@@ -74,7 +74,7 @@ TEST(ContrastRatio, BlackAgainstWhiteIsExactlyTwentyOneInEitherOrder) {
     EXPECT_EQ(contrastRatio(white, black), 21.0);
 }
 
-TEST(ContrastRatio, EqualColoursHaveExactlyOne) {
+TEST(ContrastRatio, EqualColorsHaveExactlyOne) {
     for (const std::uint32_t rgb : {0x000000u, 0x123456u, 0x888888u, 0xABCDEFu, 0xFFFFFFu})
         EXPECT_EQ(contrastRatio(fromHex(rgb), fromHex(rgb)), 1.0);
 }
@@ -154,7 +154,7 @@ TEST(ApcaLc, BlackAndWhiteExceedAHundredInBothPolarities) {
     EXPECT_NEAR(lcOf(white, black), -107.88, 0.005);
 }
 
-TEST(ApcaLc, EqualColoursHaveExactlyZero) {
+TEST(ApcaLc, EqualColorsHaveExactlyZero) {
     EXPECT_EQ(lcOf(black, black), 0.0);
     EXPECT_EQ(lcOf(white, white), 0.0);
     EXPECT_EQ(lcOf(fromHex(0x336699), fromHex(0x336699)), 0.0);

@@ -50,7 +50,7 @@ class KeyboardOnly(DropshadeCase):
         self.desktop.key("Escape")
         self.wait_for_no_loupe()
 
-    def test_a_favourite_and_a_recent_colour_are_copied_and_count_for_nothing(self):
+    def test_a_favourite_and_a_recent_color_are_copied_and_count_for_nothing(self):
         value = self.remember_colors()
         counted = self.copies_counted()
         self.desktop.own_clipboard("before")

@@ -167,7 +167,7 @@ class ImagePalette(PalettesCase):
         self.assertEqual(made["name"], "Trip")
         self.assertEqual(len(made["scales"][0]["swatches"]), 2)
 
-    def test_a_click_on_a_preview_colour_copies_it_in_the_users_format(self):
+    def test_a_click_on_a_preview_color_copies_it_in_the_users_format(self):
         self.store("colorFormat", "cssRGB")
         self.drop_file(self.harbour)
         wait_until(self.shows_image, "the image")

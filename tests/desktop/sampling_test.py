@@ -206,7 +206,7 @@ class SamplingAtDepth16(DropshadeCase):
 
     DEPTH = 16
 
-    def test_the_colour_is_the_nearest_to_what_the_screen_holds(self):
+    def test_the_color_is_the_nearest_to_what_the_screen_holds(self):
         value = self.desktop.raw_pixel(321, 123)
         expected = (round((value >> 11) * 255 / 31), round((value >> 5 & 63) * 255 / 63),
                     round((value & 31) * 255 / 31))

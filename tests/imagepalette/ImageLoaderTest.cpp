@@ -62,7 +62,7 @@ TEST(ImageLoader, ReadsGif) {
     EXPECT_EQ(loaded->image.pixel(1, 2), qRgb(200, 100, 0));
 }
 
-TEST(ImageLoader, GivesImagesWithoutAColourTable) {
+TEST(ImageLoader, GivesImagesWithoutAColorTable) {
     QImage image(10, 10, QImage::Format_Indexed8);
     image.setColorTable({qRgb(1, 2, 3)});
     image.fill(0);
@@ -330,7 +330,7 @@ TEST(PixelBufferOf, ATransparentEdgeDoesNotDarkenWhatIsScaled) {
         EXPECT_GE(pixel.red, 253);
 }
 
-TEST(PixelBufferOf, BringsAnotherColourSpaceToSRGB) {
+TEST(PixelBufferOf, BringsAnotherColorSpaceToSRGB) {
     const std::vector<Pixel> pixels = pixelsOf(inDisplayP3());
     const QRgb expected = expectedInSRGB();
     ASSERT_EQ(pixels.size(), 64u * 64u);
@@ -343,7 +343,7 @@ TEST(PixelBufferOf, TakesImagesWithPaddedRows) {
     EXPECT_EQ(pixelsOf(image), std::vector<Pixel>(500, Pixel{255, 255, 255}));
 }
 
-TEST(PixelBufferOf, TakesIndicesBeyondTheColourTable) {
+TEST(PixelBufferOf, TakesIndicesBeyondTheColorTable) {
     QImage image(300, 9, QImage::Format_Indexed8);
     image.setColorTable({qRgb(1, 2, 3)});
     std::fill_n(image.bits(), image.sizeInBytes(), uchar{255});

@@ -49,12 +49,12 @@ TEST_P(EveryAlgorithm, GivesNothingForNoPixels) {
     EXPECT_TRUE(run(GetParam(), {}, 1).empty());
 }
 
-TEST_P(EveryAlgorithm, GivesTheColourOfASinglePixel) {
+TEST_P(EveryAlgorithm, GivesTheColorOfASinglePixel) {
     for (const int k : {1, 2, 8, 24})
         EXPECT_THAT(run(GetParam(), {{7, 8, 9}}, k), ElementsAre(QuantizedColor{7, 8, 9, 1}));
 }
 
-TEST_P(EveryAlgorithm, GivesBothOfTwoColoursOnEqualTerms) {
+TEST_P(EveryAlgorithm, GivesBothOfTwoColorsOnEqualTerms) {
     const Pixels pixels = {{255, 0, 0}, {0, 0, 255}, {255, 0, 0}, {0, 0, 255}};
     EXPECT_THAT(run(GetParam(), pixels, 2),
                 UnorderedElementsAre(QuantizedColor{255, 0, 0, 2}, QuantizedColor{0, 0, 255, 2}));
@@ -188,7 +188,7 @@ TEST(Octree, TheFinalCutKeepsTheMostFrequentInFallingOrder) {
                             QuantizedColor{0, 0, 0, 1}));
 }
 
-TEST(Octree, MergesTheRarestColoursFirst) {
+TEST(Octree, MergesTheRarestColorsFirst) {
     // Two pairs of neighbours, each under one node of the deepest level but one.
     const Pixels pixels = {{0, 0, 0},       {0, 0, 0},       {0, 0, 1},
                            {255, 255, 255}, {255, 255, 254}, {128, 0, 0}};

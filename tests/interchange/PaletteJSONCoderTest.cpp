@@ -148,7 +148,7 @@ TEST(PaletteJSONCoder, TellsANullLabelFromAnEmptyOne) {
     EXPECT_EQ(decodedSwatch(R"("value":"red","label":"")").label, QString());
 }
 
-TEST(PaletteJSONCoder, KeepsAValueThatIsNoColourAndShowsBlack) {
+TEST(PaletteJSONCoder, KeepsAValueThatIsNoColorAndShowsBlack) {
     const DecodedPreset preset = PaletteJSONCoder::decode(
         R"({"name":"p","scales":[{"name":"s","swatches":[{"value":"not a colour"}]}]})");
     const Palette palette = PaletteJSONCoder::makePalette(preset, ReferenceTime{});
@@ -157,7 +157,7 @@ TEST(PaletteJSONCoder, KeepsAValueThatIsNoColourAndShowsBlack) {
     EXPECT_TRUE(PaletteJSONCoder::encode(palette).contains(R"("value" : "not a colour")"));
 }
 
-TEST(PaletteJSONCoder, KeepsEveryFormOfColourAsWritten) {
+TEST(PaletteJSONCoder, KeepsEveryFormOfColorAsWritten) {
     for (const char* value : {"RebeccaPurple", "rgba(1, 2, 3, 0.5)", "#11223344", " #FFF "})
         EXPECT_EQ(decodedSwatch(R"("value":")" + QByteArray(value) + '"').value,
                   QString::fromLatin1(value));

@@ -93,7 +93,7 @@ class Browser(unittest.TestCase):
         found = self.found((link + REPORT + SHEET_SCRIPT % json.dumps(names)).encode())
         self.assertEqual(found, [computed(color) for color, _ in self.expected[name]["swatches"]])
 
-    def test_every_swatch_of_a_page_has_its_colour(self):
+    def test_every_swatch_of_a_page_has_its_color(self):
         self.check_page("colours")
 
     def test_a_hostile_name_breaks_no_page(self):
@@ -102,7 +102,7 @@ class Browser(unittest.TestCase):
     def test_a_long_name_breaks_no_page(self):
         self.check_page("long")
 
-    def test_every_custom_property_of_a_sheet_has_its_colour(self):
+    def test_every_custom_property_of_a_sheet_has_its_color(self):
         self.check_sheet("colours")
 
     def test_a_hostile_name_without_the_end_of_a_comment_breaks_no_sheet(self):

@@ -74,7 +74,7 @@ TEST_F(PortalScreenSamplerTest, EveryCodeButZeroIsAQuietNothing) {
     }
 }
 
-TEST_F(PortalScreenSamplerTest, AnAnswerThatIsNoColourIsNothing) {
+TEST_F(PortalScreenSamplerTest, AnAnswerThatIsNoColorIsNothing) {
     const double notANumber = std::numeric_limits<double>::quiet_NaN();
     for (const QVariant& value : {QVariant(), QVariant(QStringLiteral("#fff")), QVariant(1.0),
                                   QVariant(QVariantList{1.0, 1.0, 1.0}),

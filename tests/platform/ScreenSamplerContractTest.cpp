@@ -106,7 +106,7 @@ struct UserNames {
 using Users = testing::Types<FakeUser, PortalUser, X11User>;
 TYPED_TEST_SUITE(ScreenSamplerContract, Users, UserNames);
 
-TYPED_TEST(ScreenSamplerContract, CompletesWithTheColourThatTheUserPicked) {
+TYPED_TEST(ScreenSamplerContract, CompletesWithTheColorThatTheUserPicked) {
     typename TestFixture::Outcome outcome;
     this->sampleInto(outcome);
     EXPECT_EQ(outcome.completions, 0) << "not within the call";
