@@ -53,7 +53,7 @@ AlertWindow* AlertWindow::ask(const Look& look, QWidget* host, const Alert& aler
                               Alerts::Answer answer) {
     auto* window = new AlertWindow(look, host, alert, std::move(answer));
     window->place(host);
-    window->fadeIn(metrics::popoverIn);
+    window->fadeIn();
     window->raise();
     window->activateWindow();
     window->m_first->setFocus(Qt::PopupFocusReason);
@@ -167,8 +167,8 @@ void AlertWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void AlertWindow::closeEvent(QCloseEvent* event) {
+    Surface::closeEvent(event);
     finish(m_cancelling);
-    event->accept();
 }
 
 void AlertWindow::finish(qsizetype button) {

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/Popover.h"
 
-#include "widgets/Metrics.h"
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -77,7 +75,7 @@ void Popover::open(Side side, const QRect& keepClear) {
         screen = m_anchor->screen();
     const QSize surface = content()->sizeHint();
     moveSurface(popoverPosition(surface, anchor, keepClear, screen->availableGeometry(), side));
-    fadeIn(metrics::popoverIn);
+    fadeIn();
 }
 
 void Popover::hideEvent(QHideEvent* event) {

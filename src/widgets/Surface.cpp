@@ -3,13 +3,15 @@
 #include "widgets/Surface.h"
 
 #include "widgets/AccessibleWindows.h"
+#include "widgets/Afterimage.h"
 #include "widgets/FocusRing.h"
 #include "widgets/Metrics.h"
 #include "widgets/Painting.h"
 #include "widgets/RoundedMask.h"
+#include "widgets/WindowFade.h"
 
+#include <QAccessible>
 #include <QLayout>
-#include <QPropertyAnimation>
 #include <QVBoxLayout>
 
 namespace dropshade {
@@ -41,17 +43,27 @@ void Surface::moveSurface(const QPoint& corner) {
     move(corner - QPoint(m_reach, m_reach));
 }
 
-void Surface::fadeIn(std::chrono::milliseconds time) {
-    const auto duration = m_look.duration(time);
-    if (duration.count() > 0 && m_look.blendsWindows() && m_look.programsPlaceWindows()) {
-        auto* fade = new QPropertyAnimation(this, "windowOpacity", this);
-        fade->setDuration(static_cast<int>(duration.count()));
-        fade->setStartValue(0.0);
-        fade->setEndValue(1.0);
-        fade->setEasingCurve(QEasingCurve::OutCubic);
-        fade->start(QAbstractAnimation::DeleteWhenStopped);
+std::chrono::milliseconds Surface::fadeTime(std::chrono::milliseconds time) const {
+    const bool canFade = m_look.blendsWindows() && m_look.programsPlaceWindows();
+    return canFade ? m_look.duration(time) : std::chrono::milliseconds::zero();
+}
+
+void Surface::fadeIn() {
+    const auto duration = fadeTime(metrics::popoverIn);
+    if (duration.count() > 0) {
+        // A screen reader would meet it as a window without a name.
+        if (!QAccessible::isActive())
+            m_afterimage = new Afterimage(*this);
+        fadeWindow(*this, {0.0, 1.0, duration, QEasingCurve::OutCubic});
     }
     show();
+}
+
+void Surface::closeEvent(QCloseEvent* event) {
+    const auto duration = fadeTime(metrics::popoverOut);
+    if (duration.count() > 0 && isVisible() && m_afterimage)
+        m_afterimage->fade(duration);
+    QWidget::closeEvent(event);
 }
 
 void Surface::resizeEvent(QResizeEvent* event) {

@@ -4,9 +4,12 @@
 
 #include "widgets/Look.h"
 
+#include <QPointer>
 #include <QWidget>
 
 namespace dropshade {
+
+class Afterimage;
 
 /// A window that is a raised surface with round corners, an edge and a shadow: what popovers and
 /// alerts are made of. Where windows can't be translucent it has no shadow.
@@ -31,16 +34,21 @@ protected:
     /// Puts the surface, not its shadow, at `corner`.
     void moveSurface(const QPoint& corner);
 
-    /// Shows the window, faded in over `time`.
-    void fadeIn(std::chrono::milliseconds time);
+    /// Shows the window, which fades in, as what is left of it fades out when it closes.
+    void fadeIn();
 
+    void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// None where windows can't be blended, or not over one another.
+    [[nodiscard]] std::chrono::milliseconds fadeTime(std::chrono::milliseconds time) const;
+
     const Look& m_look;
     int m_reach;
     QWidget* m_content;
+    QPointer<Afterimage> m_afterimage;
 };
 
 } // namespace dropshade

@@ -3,8 +3,10 @@
 #include "widgets/Popover.h"
 
 #include "support/FakeAppearance.h"
+#include "widgets/Afterimage.h"
 #include "widgets/TextButton.h"
 
+#include <QPointer>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -75,6 +77,42 @@ TEST_F(PopoverTest, TellsOnceThatItHasClosedAndIsGoneThen) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(popover.isNull());
     EXPECT_EQ(closed, 1);
+}
+
+TEST_F(PopoverTest, FadesOutInItsPlaceWhileItIsClosedAlready) {
+    m_appearance.setReducedMotion(false);
+    auto* popover = new Popover(m_look, m_anchor);
+    popover->open(Popover::Side::Below);
+    const QRect place = popover->geometry();
+    const QPointer<Afterimage> left = m_window.findChild<Afterimage*>();
+    ASSERT_FALSE(left.isNull());
+    EXPECT_EQ(left->windowOpacity(), 0.0);
+    EXPECT_TRUE(QTest::qWaitFor([popover] { return popover->windowOpacity() == 1.0; }));
+    popover->close();
+    EXPECT_FALSE(popover->isVisible());
+    EXPECT_GT(left->windowOpacity(), 0.0);
+    EXPECT_EQ(left->geometry(), place);
+    EXPECT_TRUE(left->isVisible());
+    EXPECT_TRUE(left->windowFlags().testFlag(Qt::WindowTransparentForInput));
+    EXPECT_TRUE(QTest::qWaitFor([&left] { return left.isNull(); }));
+}
+
+TEST_F(PopoverTest, NothingIsLeftOfItWhenItsWindowHides) {
+    m_appearance.setReducedMotion(false);
+    auto* popover = new Popover(m_look, m_anchor);
+    popover->open(Popover::Side::Below);
+    popover->close();
+    const QPointer<Afterimage> left = m_window.findChild<Afterimage*>();
+    ASSERT_FALSE(left.isNull());
+    m_window.hide();
+    EXPECT_TRUE(left.isNull() || !left->isVisible());
+}
+
+TEST_F(PopoverTest, GoesAtOnceWhereNothingIsToMove) {
+    auto* popover = new Popover(m_look, m_anchor);
+    popover->open(Popover::Side::Below);
+    popover->close();
+    EXPECT_EQ(m_window.findChild<Afterimage*>(), nullptr);
 }
 
 TEST_F(PopoverTest, HasARoomForItsShadowOnlyWhereWindowsAreBlended) {
