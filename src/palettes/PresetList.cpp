@@ -98,7 +98,7 @@ void PresetList::addRow(const Palette& preset, QWidget& column) {
 }
 
 bool PresetList::eventFilter(QObject* watched, QEvent* event) {
-    const auto choose = [this, watched](QAbstractButton* row) {
+    const auto choose = [watched](QAbstractButton* row) {
         row->setChecked(true);
         if (row != watched)
             row->setFocus(Qt::TabFocusReason);
