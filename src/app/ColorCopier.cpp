@@ -5,12 +5,17 @@
 #include "app/RecentColor.h"
 #include "app/SettingsReaders.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace dropshade {
 
 void countCheck(UserDefaults& defaults) {
     defaults.amend(keys::totalChecksCount, [](const std::optional<DefaultsValue>& stored) {
         const qint64* count = stored ? std::get_if<qint64>(&*stored) : nullptr;
-        return DefaultsValue((count ? *count : 0) + 1);
+        // A file, or another machine, may hold the largest number.
+        constexpr qint64 most = std::numeric_limits<qint64>::max();
+        return DefaultsValue(std::min(count ? *count : 0, most - 1) + 1);
     });
 }
 
