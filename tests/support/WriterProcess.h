@@ -96,7 +96,12 @@ public:
         return static_cast<int>(std::count(m_text.begin(), m_text.end(), '+'));
     }
     [[nodiscard]] int refusedCount() const {
-        return static_cast<int>(std::count(m_text.begin(), m_text.end(), '-'));
+        return static_cast<int>(std::count(m_text.begin(), m_text.end(), '-')) +
+               refusedTooSoonCount();
+    }
+    /// Those of the refused that another process can't have held up for as long as a write waits.
+    [[nodiscard]] int refusedTooSoonCount() const {
+        return static_cast<int>(std::count(m_text.begin(), m_text.end(), '!'));
     }
 
 private:
