@@ -146,6 +146,7 @@ void AppDelegate::applicationWillTerminate() {
     m_isTerminating = true;
     // What the user has brought in is saved with the rest.
     m_paletteImports.finish();
+    m_platform.defaults->beginLastWrites();
     // The store first: its save may bring the pins in line.
     if (m_paletteStore && m_paletteStore->hasPendingSave())
         m_paletteStore->flushPendingSave();

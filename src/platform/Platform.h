@@ -28,8 +28,9 @@ namespace dropshade {
 /// Everything the program asks of the desktop, one of each.
 struct Platform {
     std::unique_ptr<ApplicationInstance> instance;
-    std::unique_ptr<UserDefaults> defaults;
     std::unique_ptr<Scheduler> scheduler;
+    /// Uses the scheduler, and so goes before it.
+    std::unique_ptr<UserDefaults> defaults;
     std::unique_ptr<BackgroundQueue> backgroundQueue;
     std::unique_ptr<Pasteboard> pasteboard;
     std::unique_ptr<DesktopAppearance> appearance;

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] virtual std::optional<DefaultsValue> value(const QString& key) const = 0;
 
     /// Stores `value` under `key` and announces it. False when the disk refused it; this process
-    /// then goes on to see the value, and it is written again together with the next write.
+    /// then goes on to see the value, which is written again soon, or together with the next write.
     virtual bool setValue(const QString& key, const DefaultsValue& value) = 0;
 
     /// Makes `key` unset and announces it; the result is as for `setValue`.
@@ -50,6 +50,10 @@ public:
     /// no value is lost because it could not be read. `change` must be good for as long as this
     /// object is.
     virtual bool amend(const QString& key, const Change& change) = 0;
+
+    /// The program ends, and nothing would try a write again: from here on other processes are
+    /// waited for longer.
+    virtual void beginLastWrites() = 0;
 
     /// Every key that is set, in no order.
     [[nodiscard]] virtual QStringList keys() const = 0;

@@ -115,6 +115,20 @@ TEST_F(AppDelegateMemory, WritesWhatWaitsAtTheEndThePalettesBeforeThePins) {
     EXPECT_EQ(m_fakes.scheduler.pendingCount(), 0);
 }
 
+TEST_F(AppDelegateMemory, WaitsAtTheEndForAnotherProcessThatHoldsUpTheLastWrites) {
+    AppDelegate& delegate = launch();
+    const Palette palette = delegate.paletteStore().palettes().first();
+    const PaletteScale& scale = palette.scales().first();
+    delegate.settings().pinSwatch(scale.swatches().first(), palette, scale);
+    delegate.paletteStore().renamePalette(palette.id(), QStringLiteral("At the end"));
+    m_fakes.defaults.setHeldUp();
+    delegate.applicationWillTerminate();
+    EXPECT_TRUE(m_fakes.defaults.contains(keys::pinnedColors));
+    EXPECT_TRUE(m_fakes.defaults.read<QByteArray>(keys::userPalettes)
+                    .value_or(QByteArray())
+                    .contains("At the end"));
+}
+
 TEST_F(AppDelegateMemory, WritesNothingAtTheEndWhereNothingWaits) {
     AppDelegate& delegate = launch();
     const int before = m_fakes.defaults.writeCount();

@@ -4,6 +4,7 @@
 
 #include "platform/linux/SqliteDatabase.h"
 #include "support/DefaultsFolder.h"
+#include "support/ManualScheduler.h"
 
 #include <QElapsedTimer>
 
@@ -14,6 +15,8 @@
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <unistd.h>
+
+#include <thread>
 
 namespace dropshade {
 namespace {
@@ -243,6 +246,58 @@ TEST_F(SqliteDefaultsRefusal, ByAnotherProcesssLockComesSoonAndLosesNothing) {
     ASSERT_EQ(other.execute("COMMIT"), SQLITE_OK);
     EXPECT_TRUE(store.setValue(nextKey, false));
     EXPECT_THAT(SqliteDefaults(m_path).keys(), UnorderedElementsAre(oldKey, newKey, nextKey));
+}
+
+TEST_F(SqliteDefaultsRefusal, EndsByItselfWithoutAnotherWrite) {
+    ManualScheduler scheduler;
+    SqliteDefaults store(m_path, &scheduler);
+    const SqliteDefaults other(m_path);
+    ASSERT_TRUE(store.setValue(oldKey, true));
+    EXPECT_EQ(scheduler.pendingCount(), 0);
+    {
+        const FileSizeLimit limit(0);
+        EXPECT_FALSE(store.setValue(newKey, true));
+        EXPECT_FALSE(store.remove(oldKey));
+        scheduler.advance(60000);
+        EXPECT_EQ(scheduler.pendingCount(), 1);
+    }
+    EXPECT_EQ(other.keys(), QStringList{oldKey});
+    scheduler.advance(5000);
+    EXPECT_EQ(other.keys(), QStringList{newKey});
+    EXPECT_EQ(scheduler.pendingCount(), 0);
+}
+
+TEST_F(SqliteDefaultsRefusal, ByALockThatGoesWithinSecondsIsNoneForTheLastWrites) {
+    SqliteDefaults store(m_path);
+    ASSERT_TRUE(store.setValue(oldKey, true));
+    SqliteDatabase other(QFile::encodeName(m_path), SqliteDatabase::Access::ReadWrite);
+    ASSERT_EQ(other.execute("BEGIN IMMEDIATE"), SQLITE_OK);
+    store.beginLastWrites();
+    int result = SQLITE_ERROR;
+    std::thread otherProcess([&] {
+        // Longer than other writes wait.
+        std::this_thread::sleep_for(std::chrono::milliseconds(600));
+        result = other.execute("COMMIT");
+    });
+    EXPECT_TRUE(store.update(oldKey, [](const auto&) { return DefaultsValue(false); }));
+    otherProcess.join();
+    EXPECT_EQ(result, SQLITE_OK);
+    EXPECT_EQ(SqliteDefaults(m_path).value(oldKey), DefaultsValue(false));
+}
+
+TEST_F(SqliteDefaultsRefusal, ByALockThatStaysLetsTheProgramEnd) {
+    auto store = std::make_unique<SqliteDefaults>(m_path);
+    ASSERT_TRUE(store->setValue(oldKey, true));
+    SqliteDatabase other(QFile::encodeName(m_path), SqliteDatabase::Access::ReadWrite);
+    ASSERT_EQ(other.execute("BEGIN IMMEDIATE"), SQLITE_OK);
+    QElapsedTimer timer;
+    timer.start();
+    store->beginLastWrites();
+    EXPECT_FALSE(store->setValue(oldKey, false));
+    EXPECT_FALSE(store->setValue(newKey, true));
+    store.reset();
+    // What all of them may wait together, and what each may wait once that has passed.
+    EXPECT_LT(timer.elapsed(), 5000 + 4 * 250);
 }
 
 TEST_F(SqliteDefaultsRefusal, OfAnUpdateChangesNothingHereNorThere) {

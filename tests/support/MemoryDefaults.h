@@ -37,6 +37,9 @@ public:
     /// Memory is always there.
     [[nodiscard]] int refusedReads() const override { return 0; }
 
+    /// Another process that is in the way goes within the longer time.
+    void beginLastWrites() override { m_refusing = m_refusing && !m_isHeldUp; }
+
     [[nodiscard]] QStringList keys() const override {
         QStringList all;
         for (const auto& [key, value] : m_values) {
@@ -46,7 +49,13 @@ public:
     }
 
     /// While true, every write reports that the disk refused it.
-    void setRefusing(bool refusing) { m_refusing = refusing; }
+    void setRefusing(bool refusing) {
+        m_refusing = refusing;
+        m_isHeldUp = false;
+    }
+
+    /// From here on every write is held up by another process, longer than it may wait.
+    void setHeldUp() { m_refusing = m_isHeldUp = true; }
 
     /// A write of another process: seen at the next read, announced to nobody.
     void setFromAnotherProcess(const QString& key, const DefaultsValue& value) {
@@ -67,6 +76,7 @@ private:
 
     std::map<QString, DefaultsValue> m_values;
     bool m_refusing = false;
+    bool m_isHeldUp = false;
     int m_writeCount = 0;
 };
 

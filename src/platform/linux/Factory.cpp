@@ -72,8 +72,9 @@ Platform makePlatform() {
         introduceToPortal();
     Platform platform;
     platform.instance = std::make_unique<DBusApplicationInstance>();
-    platform.defaults = std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath());
     platform.scheduler = std::make_unique<QtScheduler>();
+    platform.defaults =
+        std::make_unique<SqliteDefaults>(SqliteDefaults::defaultPath(), platform.scheduler.get());
     platform.backgroundQueue = std::make_unique<PoolBackgroundQueue>();
     platform.pasteboard = makePasteboard();
     platform.appearance = std::make_unique<PortalAppearance>(windowsAreBlended, isX11());

@@ -2,19 +2,29 @@
 // SPDX-License-Identifier: MIT
 #include "platform/linux/SqliteDefaults.h"
 
+#include "platform/Scheduler.h"
 #include "platform/linux/DefaultsDatabase.h"
 
 #include <QStandardPaths>
 
-namespace dropshade {
+#include <algorithm>
 
-SqliteDefaults::SqliteDefaults(const QString& path)
-    : m_database(std::make_unique<DefaultsDatabase>(path)) {}
+namespace dropshade {
+namespace {
+
+constexpr std::chrono::seconds retryDelay{5};
+
+/// No longer than a session that ends waits for its programs.
+constexpr std::chrono::seconds longestEnd{5};
+
+} // namespace
+
+SqliteDefaults::SqliteDefaults(const QString& path, Scheduler* scheduler)
+    : m_database(std::make_unique<DefaultsDatabase>(path)), m_scheduler(scheduler) {}
 
 SqliteDefaults::~SqliteDefaults() {
-    if (!m_unsaved.empty()) {
-        static_cast<void>(m_database->write(m_unsaved, KeptDatabase::deadline()));
-    }
+    SqliteDefaults::beginLastWrites();
+    storeUnsaved(deadline());
 }
 
 std::optional<DefaultsValue> SqliteDefaults::value(const QString& key) const {
@@ -47,7 +57,7 @@ bool SqliteDefaults::amend(const QString& key, const Change& change) {
 }
 
 bool SqliteDefaults::update(const QString& key, const Change& change) {
-    const auto deadline = KeptDatabase::deadline();
+    const auto deadline = this->deadline();
     const auto unsaved = m_unsaved.find(key);
     const auto changed = [&](const std::optional<DefaultsValue>& stored) {
         return change(unsaved != m_unsaved.end() ? unsaved->second.over(stored) : stored);
@@ -56,11 +66,16 @@ bool SqliteDefaults::update(const QString& key, const Change& change) {
         return false;
     }
     m_unsaved.erase(key);
-    if (!m_unsaved.empty() && m_database->write(m_unsaved, deadline)) {
-        m_unsaved.clear();
-    }
+    storeUnsaved(deadline);
     Q_EMIT didChange(key);
     return true;
+}
+
+void SqliteDefaults::beginLastWrites() {
+    if (!m_end) {
+        m_end = std::chrono::steady_clock::now() + longestEnd;
+    }
+    m_retry.reset();
 }
 
 QStringList SqliteDefaults::keys() const {
@@ -87,9 +102,8 @@ bool SqliteDefaults::storeAndAnnounce(const QString& key) {
 }
 
 bool SqliteDefaults::store(const QString& key) {
-    const auto deadline = KeptDatabase::deadline();
-    if (m_database->write(m_unsaved, deadline)) {
-        m_unsaved.clear();
+    const auto deadline = this->deadline();
+    if (storeUnsaved(deadline)) {
         return true;
     }
     // One value that is too large for the disk must not keep the others from it.
@@ -98,6 +112,33 @@ bool SqliteDefaults::store(const QString& key) {
         return true;
     }
     return false;
+}
+
+/// True when nothing is left unsaved.
+bool SqliteDefaults::storeUnsaved(Deadline deadline) {
+    if (m_unsaved.empty() || m_database->write(m_unsaved, deadline)) {
+        m_unsaved.clear();
+        m_retry.reset();
+        return true;
+    }
+    storeUnsavedLater();
+    return false;
+}
+
+/// Else a setting that was refused once would be lost with a program that is killed, or a computer
+/// that stops, before the user changes another.
+void SqliteDefaults::storeUnsavedLater() {
+    if (m_scheduler && !m_end && !m_retry) {
+        m_retry = m_scheduler->after(retryDelay, [this] {
+            m_retry.reset();
+            storeUnsaved(deadline());
+        });
+    }
+}
+
+SqliteDefaults::Deadline SqliteDefaults::deadline() const {
+    const auto soon = KeptDatabase::deadline();
+    return m_end ? std::max(soon, *m_end) : soon;
 }
 
 } // namespace dropshade
