@@ -48,8 +48,10 @@ SettingsRootView::SettingsRootView(const Surroundings& surroundings)
 Toggle* SettingsRootView::addToggle(const QString& name, void (SettingsModel::*set)(bool),
                                     SettingsRow** row) {
     auto* toggle = new Toggle(m_with.look, name, this);
-    // The user's clicks alone, not what shows the model's values.
-    connect(toggle, &QAbstractButton::clicked, this, [this, set](bool on) { (m_model.*set)(on); });
+    // The user's clicks alone, not what shows the model's values. The model is named: through
+    // `this` a call of a member pointer goes astray where GCC 12 checks for undefined behaviour.
+    connect(toggle, &QAbstractButton::clicked, this,
+            [&model = m_model, set](bool on) { (model.*set)(on); });
     SettingsRow* added = addRow(name, toggle);
     if (row)
         *row = added;

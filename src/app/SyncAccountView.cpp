@@ -103,7 +103,7 @@ void SyncAccountView::addServer() {
                             void (SyncAccountModel::*set)(const QString&)) {
         field = addField(name);
         connect(field, &QLineEdit::editingFinished, this,
-                [this, &field, set] { (m_model.*set)(field->text()); });
+                [&model = m_model, &field, set] { (model.*set)(field->text()); });
     };
     //: Sync settings: the address of a server
     const QString address = tr("Address");
