@@ -143,10 +143,12 @@ TEST_F(AppDelegateWindows, ThePresetsComeATurnAfterThePalettes) {
 TEST_F(AppDelegateWindows, AnImportBringsUpThePalettesWhateverComesOfIt) {
     delegate.importPalette("{", QStringLiteral("json"), std::nullopt);
     ASSERT_NE(shown(palettes), nullptr);
+    fakes.backgroundQueue.workAndLand();
     EXPECT_EQ(fakes.alerts.shown().size(), 1);
     shown(palettes)->close();
     delegate.importPalette(R"({"name":"Inner","scales":[]})", QStringLiteral("json"), std::nullopt);
     EXPECT_NE(shown(palettes), nullptr);
+    fakes.backgroundQueue.workAndLand();
     EXPECT_EQ(delegate.paletteStore().palettes().first().name(), QStringLiteral("Inner"));
 }
 
