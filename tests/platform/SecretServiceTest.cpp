@@ -4,13 +4,13 @@
 // Passwords with a real secret service, on a private bus.
 
 #include "platform/linux/etcd/PasswordKeeper.h"
+#include "support/ChildProcess.h"
 #include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -30,6 +30,8 @@ protected:
                   "<policy context=\"default\"><allow send_destination=\"*\"/>"
                   "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy></busconfig>");
         bus.close();
+        endWithThisThread(m_bus);
+        endWithThisThread(m_keyring);
         m_bus.start(QStringLiteral("dbus-daemon"),
                     {QStringLiteral("--config-file=") + bus.fileName(), QStringLiteral("--nofork"),
                      QStringLiteral("--print-address")});

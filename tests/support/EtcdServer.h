@@ -4,8 +4,8 @@
 
 #include "platform/linux/etcd/EtcdClient.h"
 #include "platform/linux/etcd/EtcdTransport.h"
+#include "support/ChildProcess.h"
 
-#include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTemporaryDir>
@@ -84,6 +84,7 @@ public:
                           QStringLiteral("--key-file"), m_options.key};
         m_process.setProcessChannelMode(QProcess::MergedChannels);
         m_process.setStandardOutputFile(m_folder.filePath(QStringLiteral("log.txt")));
+        endWithThisThread(m_process);
         m_process.start(QStringLiteral("etcd"), supported(arguments + m_options.arguments));
         m_process.waitForStarted();
     }
