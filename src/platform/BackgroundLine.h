@@ -9,7 +9,8 @@
 namespace dropshade {
 
 /// Tasks beside the main thread, one after another: each has run before the next begins, and they
-/// land in their order. The end of the line drops the tasks that haven't begun, and none lands.
+/// land in their order. The end of the line drops the tasks that haven't begun, and none lands; no
+/// landing may end the line itself.
 class BackgroundLine {
 public:
     /// `queue` must outlive this object.

@@ -24,7 +24,7 @@ Spinner::Spinner(const Look& look, const QString& name, QWidget* parent)
     m_turn.setStartValue(0.0);
     m_turn.setEndValue(360.0);
     m_turn.setLoopCount(-1);
-    connect(&m_delay, &QTimer::timeout, this, &Spinner::show);
+    connect(&m_delay, &QTimer::timeout, this, &Spinner::appear);
     connect(&m_turn, &QVariantAnimation::valueChanged, this, qOverload<>(&QWidget::update));
     connect(&look, &Look::didChange, this, qOverload<>(&QWidget::update));
 }
@@ -44,7 +44,7 @@ void Spinner::setSpinning(bool spinning) {
     update();
 }
 
-void Spinner::show() {
+void Spinner::appear() {
     m_isShown = true;
     // It is there for nobody before.
     setAccessibleName(m_name);

@@ -27,7 +27,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void show();
+    void appear();
 
     const Look& m_look;
     QString m_name;
