@@ -27,6 +27,14 @@ class Accessibility(AccessibilityCase):
         self.activate_action(action)
         self.wait_for_window(title)
 
+    def open_with_listener(self, action, title):
+        """The listener's path, once it has heard of the window: the program learns a moment after it
+        that somebody listens."""
+        path = self.listen()
+        self.open(action, title)
+        wait_until(lambda: self.heard(path), "news of the window")
+        return path
+
     def names(self, window, role):
         return [thing["name"] for thing in self.things(window) if thing["role"] == role]
 
@@ -57,16 +65,14 @@ class Accessibility(AccessibilityCase):
         wait_until(lambda: self.desktop.clipboard_text() == "#008000", "the copied text")
 
     def test_a_screen_reader_is_told_of_a_copy(self):
-        self.open("contrast", "Check Contrast")
-        path = self.listen()
+        path = self.open_with_listener("contrast", "Check Contrast")
         self.do("Check Contrast", "push button", "Copy", "Press")
         notices = wait_until(lambda: [heard["name"] for heard in self.heard(path)
                                       if heard["role"] == "notification"], "the announcement")
         self.assertIn("#FFFFFF", notices[0])
 
     def test_a_menu_opens_for_a_color_and_its_rows_have_names(self):
-        self.open("palettes", "Palettes")
-        path = self.listen()
+        path = self.open_with_listener("palettes", "Palettes")
         self.do("Palettes", "push button", "#0000ff", "ShowMenu")
         wait_until(self.desktop.open_menu, "the menu")
         wait_until(lambda: [heard for heard in self.heard(path)
