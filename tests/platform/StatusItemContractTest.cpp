@@ -38,8 +38,12 @@ struct TrayPanel {
     }
     void click(Qt::MouseButton button) {
         // The tray moves its icons while it makes room for them.
-        QTest::qWait(200);
-        hand.moveTo(item.geometry().center());
+        const auto isOverItem = [this] {
+            hand.moveTo(item.geometry().center());
+            QTest::qWait(200);
+            return hand.isOverThisProgram();
+        };
+        ASSERT_TRUE(QTest::qWaitFor(isOverItem, patienceMilliseconds));
         hand.click(button == Qt::LeftButton    ? XCB_BUTTON_INDEX_1
                    : button == Qt::RightButton ? XCB_BUTTON_INDEX_3
                                                : XCB_BUTTON_INDEX_2);

@@ -4,10 +4,14 @@
 
 #include <QGuiApplication>
 #include <QPoint>
+#include <QWindow>
 
 #include <X11/keysym.h>
 #include <xcb/xcb_keysyms.h>
 #include <xcb/xtest.h>
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace dropshade {
 
@@ -34,6 +38,15 @@ public:
                          static_cast<std::int16_t>(position.x()),
                          static_cast<std::int16_t>(position.y()));
         xcb_flush(m_connection);
+    }
+
+    /// Whether a click would go to a window of this program, wherever another has embedded it.
+    [[nodiscard]] bool isOverThisProgram() {
+        const xcb_window_t window = windowUnderPointer();
+        const QWindowList own = QGuiApplication::allWindows();
+        return std::any_of(own.begin(), own.end(), [window](const QWindow* one) {
+            return one->handle() && one->winId() == window;
+        });
     }
 
     void click(std::uint8_t button) {
@@ -63,6 +76,19 @@ public:
     xcb_connection_t* connection() { return m_connection; }
 
 private:
+    xcb_window_t windowUnderPointer() {
+        xcb_window_t deepest = XCB_NONE;
+        xcb_window_t next = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
+        while (next != XCB_NONE) {
+            deepest = next;
+            xcb_query_pointer_reply_t* reply = xcb_query_pointer_reply(
+                m_connection, xcb_query_pointer(m_connection, deepest), nullptr);
+            next = reply ? reply->child : XCB_NONE;
+            std::free(reply);
+        }
+        return deepest;
+    }
+
     void send(std::uint8_t type, std::uint8_t detail) {
         xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
         xcb_flush(m_connection);
