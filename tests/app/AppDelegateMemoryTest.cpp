@@ -17,6 +17,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <limits>
+
 namespace dropshade {
 namespace {
 
@@ -84,6 +86,22 @@ TEST_F(AppDelegateMemory, CopiesCountsAndIsHeardButRemembersNothingWithALimitOfZ
     EXPECT_EQ(m_fakes.pasteboard.text(), QStringLiteral("#FF0080"));
     EXPECT_EQ(m_fakes.defaults.read<qint64>(keys::totalChecksCount), 1);
     EXPECT_EQ(m_fakes.soundPlayer.played().size(), 1);
+}
+
+TEST_F(AppDelegateMemory, CountsCopiesUpToTheLargestNumberAndNoFurther) {
+    constexpr qint64 largest = std::numeric_limits<qint64>::max();
+    m_fakes.defaults.setValue(keys::totalChecksCount, largest - 1);
+    AppDelegate& delegate = launch();
+    for (int copies = 0; copies < 2; ++copies) {
+        delegate.copyColor(pink);
+        EXPECT_EQ(m_fakes.defaults.read<qint64>(keys::totalChecksCount), largest);
+    }
+}
+
+TEST_F(AppDelegateMemory, CountsFromTheBeginningWhereTheCountIsNoNumber) {
+    m_fakes.defaults.setValue(keys::totalChecksCount, QStringLiteral("many"));
+    launch().copyColor(pink);
+    EXPECT_EQ(m_fakes.defaults.read<qint64>(keys::totalChecksCount), 1);
 }
 
 TEST_F(AppDelegateMemory, LoadsThePalettesAfterTheStatusItemIsUp) {
